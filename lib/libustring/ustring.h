@@ -130,6 +130,8 @@ private:
     int convert_from_wdata();
     void mark_wdata_stale() const;
     void ensure_wdata() const;
+    void append_bytes(char const* s, size_t len);
+    void append_units(unsigned short const* s, size_t n);
 
     char* data;
     size_t data_len;
