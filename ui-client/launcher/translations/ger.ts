@@ -5,99 +5,99 @@
     <name>global</name>
     <message>
         <source>Edit</source>
-        <translation>Edit</translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <translation>Unlink</translation>
+        <translation>Verknüpfung aufheben</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation>Add</translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Choose Another Folder</source>
-        <translation>Choose Another Folder</translation>
+        <translation>Anderen Ordner wählen</translation>
     </message>
     <message>
         <source>Merge</source>
-        <translation>Merge</translation>
+        <translation>Zusammenführen</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation>Error</translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>A conflict occurred while syncing this file.</source>
-        <translation>A conflict occurred while syncing this file.</translation>
+        <translation>Beim Synchronisieren dieser Datei ist ein Konflikt aufgetreten.</translation>
     </message>
     <message>
         <source>Invalid parameter.</source>
-        <translation>Invalid parameter.</translation>
+        <translation>Ungültiger Parameter.</translation>
     </message>
     <message>
         <source>A network error occurred. Please check your network connection and try again.</source>
-        <translation>A network error occurred. Please check your network connection and try again.</translation>
+        <translation>Ein Netzwerkfehler ist aufgetreten. Bitte überprüfen Sie Ihre Netzwerkverbindung und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>Finish</translation>
+        <translation>Fertig stellen</translation>
     </message>
     <message>
         <source>Local Storage</source>
-        <translation>Local Storage</translation>
+        <translation>Lokaler Speicher</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation>Reconnect</translation>
+        <translation>Erneut verbinden</translation>
     </message>
     <message>
         <source>About</source>
-        <translation>About</translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Testing connection...</source>
-        <translation>Testing connection...</translation>
+        <translation>Verbindung wird getestet ...</translation>
     </message>
     <message>
         <source>The selected folder is not empty. Files in it will be merged with the files on the server.</source>
-        <translation>The selected folder is not empty. Files in it will be merged with the files on the server.</translation>
+        <translation>Der ausgewählte Ordner ist nicht leer. Die darin enthaltenen Dateien werden mit den Dateien auf dem Server zusammengeführt.</translation>
     </message>
     <message>
         <source>Checking your account...</source>
-        <translation>Checking your account...</translation>
+        <translation>Ihr Konto wird überprüft ...</translation>
     </message>
     <message>
         <source>Connected successfully.</source>
-        <translation>Connected successfully.</translation>
+        <translation>Verbindung erfolgreich hergestellt.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; already exists. Do you want to merge its contents?</source>
-        <translation>The folder &quot;%1&quot; already exists. Do you want to merge its contents?</translation>
+        <translation>Der Ordner „%1“ ist bereits vorhanden. Möchten Sie seinen Inhalt zusammenführen?</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora automatically when I log in</source>
-        <translation>Start Nimbulo Pelora automatically when I log in</translation>
+        <translation>Nimbulo Pelora bei der Anmeldung automatisch starten</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Settings</translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Incorrect username or password.</source>
-        <translation>Incorrect username or password.</translation>
+        <translation>Benutzername oder Kennwort ist falsch.</translation>
     </message>
     <message>
         <source>Change Sync Folder</source>
-        <translation>Change Sync Folder</translation>
+        <translation>Synchronisierungsordner ändern</translation>
     </message>
     <message>
         <source>Folder Not Empty</source>
-        <translation>Folder Not Empty</translation>
+        <translation>Ordner nicht leer</translation>
     </message>
     <message>
         <source>Folder Path</source>
-        <translation>Folder Path</translation>
+        <translation>Ordnerpfad</translation>
     </message>
     <message>
         <source>ID</source>
@@ -109,35 +109,35 @@
     </message>
     <message>
         <source>Value</source>
-        <translation>Value</translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Get Started with Nimbulo Pelora</source>
-        <translation>Get Started with Nimbulo Pelora</translation>
+        <translation>Erste Schritte mit Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation>Pause</translation>
+        <translation>Anhalten</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation>Resume</translation>
+        <translation>Fortsetzen</translation>
     </message>
     <message>
         <source>Recently Updated Files</source>
-        <translation>Recently Updated Files</translation>
+        <translation>Kürzlich aktualisierte Dateien</translation>
     </message>
     <message>
         <source>Up to date</source>
-        <translation>Up to date</translation>
+        <translation>Auf dem neuesten Stand</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation>Help</translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>OK</source>
@@ -145,19 +145,19 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation>Delete</translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation>Back</translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation>Next</translation>
+        <translation>Weiter</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Cancel</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Version</source>
@@ -165,39 +165,39 @@
     </message>
     <message>
         <source>Open Nimbulo Pelora</source>
-        <translation>Open Nimbulo Pelora</translation>
+        <translation>Nimbulo Pelora öffnen</translation>
     </message>
     <message>
         <source>Detecting changes...</source>
-        <translation>Detecting changes...</translation>
+        <translation>Änderungen werden erkannt ...</translation>
     </message>
     <message>
         <source>Disconnected from the server.</source>
-        <translation>Disconnected from the server.</translation>
+        <translation>Die Verbindung zum Server wurde getrennt.</translation>
     </message>
     <message>
         <source>Enable Sync</source>
-        <translation>Enable Sync</translation>
+        <translation>Synchronisierung aktivieren</translation>
     </message>
     <message>
         <source>Authentication failed</source>
-        <translation>Authentication failed</translation>
+        <translation>Authentifizierung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Direct connection</source>
-        <translation>Direct connection</translation>
+        <translation>Direkte Verbindung</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation>Local network</translation>
+        <translation>Lokales Netzwerk</translation>
     </message>
     <message>
         <source>Checking connection...</source>
-        <translation>Checking connection...</translation>
+        <translation>Verbindung wird geprüft ...</translation>
     </message>
     <message>
         <source>Relay connection</source>
-        <translation>Relay connection</translation>
+        <translation>Relay-Verbindung</translation>
     </message>
     <message>
         <source>Internet</source>
@@ -205,111 +205,111 @@
     </message>
     <message>
         <source>Unable to connect automatically because of a system error.</source>
-        <translation>Unable to connect automatically because of a system error.</translation>
+        <translation>Aufgrund eines Systemfehlers ist keine automatische Verbindung möglich.</translation>
     </message>
     <message>
         <source>Sharing links are disabled on the server. Please contact your administrator.</source>
-        <translation>Sharing links are disabled on the server. Please contact your administrator.</translation>
+        <translation>Freigabelinks sind auf dem Server deaktiviert. Bitte wenden Sie sich an Ihren Administrator.</translation>
     </message>
     <message>
         <source>%1 files updated</source>
-        <translation>%1 files updated</translation>
+        <translation>%1 Dateien aktualisiert</translation>
     </message>
     <message>
         <source>You have read-only permission for this folder. Local changes will not be uploaded.</source>
-        <translation>You have read-only permission for this folder. Local changes will not be uploaded.</translation>
+        <translation>Sie haben für diesen Ordner nur Leseberechtigung. Lokale Änderungen werden nicht hochgeladen.</translation>
     </message>
     <message>
         <source>Your storage quota on the server is full. Free up some space to continue syncing.</source>
-        <translation>Your storage quota on the server is full. Free up some space to continue syncing.</translation>
+        <translation>Ihr Speicherkontingent auf dem Server ist erschöpft. Geben Sie Speicherplatz frei, um die Synchronisierung fortzusetzen.</translation>
     </message>
     <message>
         <source>Connection Type</source>
-        <translation>Connection Type</translation>
+        <translation>Verbindungstyp</translation>
     </message>
     <message>
         <source>Connection Information</source>
-        <translation>Connection Information</translation>
+        <translation>Verbindungsinformationen</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation>Change</translation>
+        <translation>Ändern</translation>
     </message>
     <message>
         <source>Please select a folder.</source>
-        <translation>Please select a folder.</translation>
+        <translation>Bitte wählen Sie einen Ordner aus.</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation>Information</translation>
+        <translation>Informationen</translation>
     </message>
     <message>
         <source>Unable to connect automatically. Please check the server address and try again.</source>
-        <translation>Unable to connect automatically. Please check the server address and try again.</translation>
+        <translation>Keine automatische Verbindung möglich. Bitte überprüfen Sie die Serveradresse und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Shared Folders</source>
-        <translation>Shared Folders</translation>
+        <translation>Freigegebene Ordner</translation>
     </message>
     <message>
         <source>Your changes have not been saved. Do you want to discard them?</source>
-        <translation>Your changes have not been saved. Do you want to discard them?</translation>
+        <translation>Ihre Änderungen wurden nicht gespeichert. Möchten Sie sie verwerfen?</translation>
     </message>
     <message>
         <source>Quota full</source>
-        <translation>Quota full</translation>
+        <translation>Kontingent erschöpft</translation>
     </message>
     <message>
         <source>Local Folder</source>
-        <translation>Local Folder</translation>
+        <translation>Lokaler Ordner</translation>
     </message>
     <message>
         <source>Unable to enable syncing for this shared folder.</source>
-        <translation>Unable to enable syncing for this shared folder.</translation>
+        <translation>Die Synchronisierung für diesen freigegebenen Ordner kann nicht aktiviert werden.</translation>
     </message>
     <message>
         <source>This folder conflicts with another sync task.</source>
-        <translation>This folder conflicts with another sync task.</translation>
+        <translation>Dieser Ordner steht in Konflikt mit einer anderen Synchronisierungsaufgabe.</translation>
     </message>
     <message>
         <source>You have reached the maximum number of synced shared folders.</source>
-        <translation>You have reached the maximum number of synced shared folders.</translation>
+        <translation>Sie haben die maximale Anzahl synchronisierter freigegebener Ordner erreicht.</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation>Applying settings...</translation>
+        <translation>Einstellungen werden übernommen ...</translation>
     </message>
     <message>
         <source>Please enter a port number between 1 and 65535.</source>
-        <translation>Please enter a port number between 1 and 65535.</translation>
+        <translation>Bitte geben Sie eine Portnummer zwischen 1 und 65535 ein.</translation>
     </message>
     <message>
         <source>Shared Folder</source>
-        <translation>Shared Folder</translation>
+        <translation>Freigegebener Ordner</translation>
     </message>
     <message>
         <source>Please enter the proxy server address and port.</source>
-        <translation>Please enter the proxy server address and port.</translation>
+        <translation>Bitte geben Sie die Adresse und den Port des Proxyservers ein.</translation>
     </message>
     <message>
         <source>Please enter your username.</source>
-        <translation>Please enter your username.</translation>
+        <translation>Bitte geben Sie Ihren Benutzernamen ein.</translation>
     </message>
     <message>
         <source>Manual proxy configuration</source>
-        <translation>Manual proxy configuration</translation>
+        <translation>Manuelle Proxykonfiguration</translation>
     </message>
     <message>
         <source>No proxy</source>
-        <translation>No proxy</translation>
+        <translation>Kein Proxy</translation>
     </message>
     <message>
         <source>Use system proxy settings</source>
-        <translation>Use system proxy settings</translation>
+        <translation>Proxyeinstellungen des Systems verwenden</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation>Password</translation>
+        <translation>Kennwort</translation>
     </message>
     <message>
         <source>Port</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>No changes to apply.</source>
-        <translation>No changes to apply.</translation>
+        <translation>Keine Änderungen zu übernehmen.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -329,391 +329,391 @@
     </message>
     <message>
         <source>Username</source>
-        <translation>Username</translation>
+        <translation>Benutzername</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation>Apply</translation>
+        <translation>Übernehmen</translation>
     </message>
     <message>
         <source>Proxy server requires authentication</source>
-        <translation>Proxy server requires authentication</translation>
+        <translation>Proxyserver erfordert Authentifizierung</translation>
     </message>
     <message>
         <source>Updating files...</source>
-        <translation>Updating files...</translation>
+        <translation>Dateien werden aktualisiert ...</translation>
     </message>
     <message>
         <source>Conflicting changes are kept in both copies: the local copy is renamed with the computer name.</source>
-        <translation>Conflicting changes are kept in both copies: the local copy is renamed with the computer name.</translation>
+        <translation>Bei widersprüchlichen Änderungen werden beide Kopien behalten: Die lokale Kopie wird mit dem Computernamen umbenannt.</translation>
     </message>
     <message>
         <source>Server Address</source>
-        <translation>Server Address</translation>
+        <translation>Serveradresse</translation>
     </message>
     <message>
         <source>Enter the server&apos;s IP address, host name or relay ID.</source>
-        <translation>Enter the server&apos;s IP address, host name or relay ID.</translation>
+        <translation>Geben Sie die IP-Adresse, den Hostnamen oder die Relay-ID des Servers ein.</translation>
     </message>
     <message>
         <source>The server&apos;s sync service is outdated. Please ask your administrator to update it.</source>
-        <translation>The server&apos;s sync service is outdated. Please ask your administrator to update it.</translation>
+        <translation>Der Synchronisierungsdienst des Servers ist veraltet. Bitten Sie Ihren Administrator, ihn zu aktualisieren.</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
-        <translation>Show desktop notifications</translation>
+        <translation>Desktopbenachrichtigungen anzeigen</translation>
     </message>
     <message>
         <source>Show sync status on file icons</source>
-        <translation>Show sync status on file icons</translation>
+        <translation>Synchronisierungsstatus an Dateisymbolen anzeigen</translation>
     </message>
     <message>
         <source>Encrypt the connection with SSL</source>
-        <translation>Encrypt the connection with SSL</translation>
+        <translation>Verbindung mit SSL verschlüsseln</translation>
     </message>
     <message>
         <source>General</source>
-        <translation>General</translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>Use a monochrome tray icon</source>
-        <translation>Use a monochrome tray icon</translation>
+        <translation>Einfarbiges Taskleistensymbol verwenden</translation>
     </message>
     <message>
         <source>Sync problem</source>
-        <translation>Sync problem</translation>
+        <translation>Synchronisierungsproblem</translation>
     </message>
     <message>
         <source>%1 has shared &quot;%2&quot; with you.</source>
-        <translation>%1 has shared &quot;%2&quot; with you.</translation>
+        <translation>%1 hat „%2“ für Sie freigegeben.</translation>
     </message>
     <message>
         <source>New shared folder</source>
-        <translation>New shared folder</translation>
+        <translation>Neuer freigegebener Ordner</translation>
     </message>
     <message>
         <source>Checking files...</source>
-        <translation>Checking files...</translation>
+        <translation>Dateien werden geprüft ...</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation>Continue</translation>
+        <translation>Weiter</translation>
     </message>
     <message>
         <source>Selective Sync</source>
-        <translation>Selective Sync</translation>
+        <translation>Selektive Synchronisierung</translation>
     </message>
     <message>
         <source>Files and folders matching these rules will not be synced.</source>
-        <translation>Files and folders matching these rules will not be synced.</translation>
+        <translation>Dateien und Ordner, die diesen Regeln entsprechen, werden nicht synchronisiert.</translation>
     </message>
     <message>
         <source>File extensions:</source>
-        <translation>File extensions:</translation>
+        <translation>Dateierweiterungen:</translation>
     </message>
     <message>
         <source>Updating Nimbulo Pelora...</source>
-        <translation>Updating Nimbulo Pelora...</translation>
+        <translation>Nimbulo Pelora wird aktualisiert ...</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation>Update</translation>
+        <translation>Aktualisieren</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%1 of %2</translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>Are you sure you want to stop syncing &quot;%1&quot;?</source>
-        <translation>Are you sure you want to stop syncing &quot;%1&quot;?</translation>
+        <translation>Möchten Sie die Synchronisierung von „%1“ wirklich beenden?</translation>
     </message>
     <message>
         <source>Sharing disabled</source>
-        <translation>Sharing disabled</translation>
+        <translation>Freigabe deaktiviert</translation>
     </message>
     <message>
         <source>Mount point not supported</source>
-        <translation>Mount point not supported</translation>
+        <translation>Einhängepunkt nicht unterstützt</translation>
     </message>
     <message>
         <source>Unable to remove this sync task.</source>
-        <translation>Unable to remove this sync task.</translation>
+        <translation>Diese Synchronisierungsaufgabe kann nicht entfernt werden.</translation>
     </message>
     <message>
         <source>The new language will be applied after Nimbulo Pelora restarts.</source>
-        <translation>The new language will be applied after Nimbulo Pelora restarts.</translation>
+        <translation>Die neue Sprache wird nach einem Neustart von Nimbulo Pelora übernommen.</translation>
     </message>
     <message>
         <source>The local disk is full. Free up some space to continue syncing.</source>
-        <translation>The local disk is full. Free up some space to continue syncing.</translation>
+        <translation>Der lokale Datenträger ist voll. Geben Sie Speicherplatz frei, um die Synchronisierung fortzusetzen.</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink from this server? Your local files will be kept.</source>
-        <translation>Are you sure you want to unlink from this server? Your local files will be kept.</translation>
+        <translation>Möchten Sie die Verknüpfung mit diesem Server wirklich aufheben? Ihre lokalen Dateien bleiben erhalten.</translation>
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Preparing...</translation>
+        <translation>Wird vorbereitet ...</translation>
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Uploading...</translation>
+        <translation>Wird hochgeladen ...</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation>System default</translation>
+        <translation>Systemstandard</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation>Language:</translation>
+        <translation>Sprache:</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Loading...</translation>
+        <translation>Wird geladen ...</translation>
     </message>
     <message>
         <source>Syncing %1 files</source>
-        <translation>Syncing %1 files</translation>
+        <translation>%1 Dateien werden synchronisiert</translation>
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Downloading...</translation>
+        <translation>Wird heruntergeladen ...</translation>
     </message>
     <message>
         <source>Advanced Settings</source>
-        <translation>Advanced Settings</translation>
+        <translation>Erweiterte Einstellungen</translation>
     </message>
     <message>
         <source>File names:</source>
-        <translation>File names:</translation>
+        <translation>Dateinamen:</translation>
     </message>
     <message>
         <source>Blocked Files</source>
-        <translation>Blocked Files</translation>
+        <translation>Blockierte Dateien</translation>
     </message>
     <message>
         <source>The local sync database is damaged. Please relink this sync task.</source>
-        <translation>The local sync database is damaged. Please relink this sync task.</translation>
+        <translation>Die lokale Synchronisierungsdatenbank ist beschädigt. Bitte verknüpfen Sie diese Synchronisierungsaufgabe erneut.</translation>
     </message>
     <message>
         <source>Maximum file size:</source>
-        <translation>Maximum file size:</translation>
+        <translation>Maximale Dateigröße:</translation>
     </message>
     <message>
         <source>Filter files</source>
-        <translation>Filter files</translation>
+        <translation>Dateien filtern</translation>
     </message>
     <message>
         <source>Folder Name</source>
-        <translation>Folder Name</translation>
+        <translation>Ordnername</translation>
     </message>
     <message>
         <source>Excluded file types:</source>
-        <translation>Excluded file types:</translation>
+        <translation>Ausgeschlossene Dateitypen:</translation>
     </message>
     <message>
         <source>Folders you unselect will be removed from this computer but kept on the server.</source>
-        <translation>Folders you unselect will be removed from this computer but kept on the server.</translation>
+        <translation>Ordner, deren Auswahl Sie aufheben, werden von diesem Computer entfernt, bleiben aber auf dem Server erhalten.</translation>
     </message>
     <message>
         <source>Merge mode</source>
-        <translation>Merge mode</translation>
+        <translation>Zusammenführungsmodus</translation>
     </message>
     <message>
         <source>Sync Mode</source>
-        <translation>Sync Mode</translation>
+        <translation>Synchronisierungsmodus</translation>
     </message>
     <message>
         <source>Edit Connection</source>
-        <translation>Edit Connection</translation>
+        <translation>Verbindung bearbeiten</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation>Paused</translation>
+        <translation>Angehalten</translation>
     </message>
     <message>
         <source>A mount point cannot be used as a sync folder.</source>
-        <translation>A mount point cannot be used as a sync folder.</translation>
+        <translation>Ein Einhängepunkt kann nicht als Synchronisierungsordner verwendet werden.</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation>Destination</translation>
+        <translation>Ziel</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation>Time</translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>The download was cancelled.</source>
-        <translation>The download was cancelled.</translation>
+        <translation>Der Download wurde abgebrochen.</translation>
     </message>
     <message>
         <source>Start Now</source>
-        <translation>Start Now</translation>
+        <translation>Jetzt starten</translation>
     </message>
     <message>
         <source>You do not have permission to perform this operation.</source>
-        <translation>You do not have permission to perform this operation.</translation>
+        <translation>Sie sind nicht berechtigt, diesen Vorgang auszuführen.</translation>
     </message>
     <message>
         <source>Manage</source>
-        <translation>Manage</translation>
+        <translation>Verwalten</translation>
     </message>
     <message>
         <source>Your storage quota is full</source>
-        <translation>Your storage quota is full</translation>
+        <translation>Ihr Speicherkontingent ist erschöpft</translation>
     </message>
     <message>
         <source>The local disk is full</source>
-        <translation>The local disk is full</translation>
+        <translation>Der lokale Datenträger ist voll</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation>Permission denied</translation>
+        <translation>Zugriff verweigert</translation>
     </message>
     <message>
         <source>Version mismatch</source>
-        <translation>Version mismatch</translation>
+        <translation>Versionskonflikt</translation>
     </message>
     <message>
         <source>Unable to get your account information from the server.</source>
-        <translation>Unable to get your account information from the server.</translation>
+        <translation>Ihre Kontoinformationen können nicht vom Server abgerufen werden.</translation>
     </message>
     <message>
         <source>Sync problem detected</source>
-        <translation>Sync problem detected</translation>
+        <translation>Synchronisierungsproblem erkannt</translation>
     </message>
     <message>
         <source>Computer Name</source>
-        <translation>Computer Name</translation>
+        <translation>Computername</translation>
     </message>
     <message>
         <source>The connection is unstable. Retrying...</source>
-        <translation>The connection is unstable. Retrying...</translation>
+        <translation>Die Verbindung ist instabil. Neuer Versuch ...</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>Downloading %1...</translation>
+        <translation>%1 wird heruntergeladen ...</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation>Connecting...</translation>
+        <translation>Verbindung wird hergestellt ...</translation>
     </message>
     <message>
         <source>Retrying sync...</source>
-        <translation>Retrying sync...</translation>
+        <translation>Synchronisierung wird erneut versucht ...</translation>
     </message>
     <message>
         <source>Security Warning</source>
-        <translation>Security Warning</translation>
+        <translation>Sicherheitswarnung</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation>Enabled</translation>
+        <translation>Aktiviert</translation>
     </message>
     <message>
         <source>Download completed.</source>
-        <translation>Download completed.</translation>
+        <translation>Download abgeschlossen.</translation>
     </message>
     <message>
         <source>Continue Anyway</source>
-        <translation>Continue Anyway</translation>
+        <translation>Trotzdem fortfahren</translation>
     </message>
     <message>
         <source>Filter Rules</source>
-        <translation>Filter Rules</translation>
+        <translation>Filterregeln</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation>Action</translation>
+        <translation>Aktion</translation>
     </message>
     <message>
         <source>File Name</source>
-        <translation>File Name</translation>
+        <translation>Dateiname</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation>Size</translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>No.</source>
-        <translation>No.</translation>
+        <translation>Nr.</translation>
     </message>
     <message>
         <source>Browse Previous Versions</source>
-        <translation>Browse Previous Versions</translation>
+        <translation>Frühere Versionen durchsuchen</translation>
     </message>
     <message>
         <source>Disabled</source>
-        <translation>Disabled</translation>
+        <translation>Deaktiviert</translation>
     </message>
     <message>
         <source>Stopping sync for &quot;%1&quot; will remove its local copy. Continue?</source>
-        <translation>Stopping sync for &quot;%1&quot; will remove its local copy. Continue?</translation>
+        <translation>Wenn Sie die Synchronisierung von „%1“ beenden, wird die lokale Kopie entfernt. Fortfahren?</translation>
     </message>
     <message>
         <source>Secure Connection</source>
-        <translation>Secure Connection</translation>
+        <translation>Sichere Verbindung</translation>
     </message>
     <message>
         <source>Choose the folder on this computer where your files will be synced.</source>
-        <translation>Choose the folder on this computer where your files will be synced.</translation>
+        <translation>Wählen Sie den Ordner auf diesem Computer, in den Ihre Dateien synchronisiert werden.</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation>and %1 more</translation>
+        <translation>und %1 weitere</translation>
     </message>
     <message>
         <source>Sharing</source>
-        <translation>Sharing</translation>
+        <translation>Freigabe</translation>
     </message>
     <message>
         <source>Unable to download the file.</source>
-        <translation>Unable to download the file.</translation>
+        <translation>Die Datei kann nicht heruntergeladen werden.</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation>Overview</translation>
+        <translation>Übersicht</translation>
     </message>
     <message>
         <source>The server has been replaced or reset</source>
-        <translation>The server has been replaced or reset</translation>
+        <translation>Der Server wurde ersetzt oder zurückgesetzt</translation>
     </message>
     <message>
         <source>Certificate verification failed</source>
-        <translation>Certificate verification failed</translation>
+        <translation>Zertifikatsprüfung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Syncing...</source>
-        <translation>Syncing...</translation>
+        <translation>Wird synchronisiert ...</translation>
     </message>
     <message>
         <source>The server&apos;s SSL certificate could not be verified. The connection may not be secure.</source>
-        <translation>The server&apos;s SSL certificate could not be verified. The connection may not be secure.</translation>
+        <translation>Das SSL-Zertifikat des Servers konnte nicht überprüft werden. Die Verbindung ist möglicherweise nicht sicher.</translation>
     </message>
     <message>
         <source>Finished</source>
-        <translation>Finished</translation>
+        <translation>Abgeschlossen</translation>
     </message>
     <message>
         <source>This sync task is inactive. Click to resume it.</source>
-        <translation>This sync task is inactive. Click to resume it.</translation>
+        <translation>Diese Synchronisierungsaufgabe ist inaktiv. Klicken Sie, um sie fortzusetzen.</translation>
     </message>
     <message>
         <source>Inactive</source>
-        <translation>Inactive</translation>
+        <translation>Inaktiv</translation>
     </message>
     <message>
         <source>This file cannot be downloaded right now.</source>
-        <translation>This file cannot be downloaded right now.</translation>
+        <translation>Diese Datei kann derzeit nicht heruntergeladen werden.</translation>
     </message>
     <message>
         <source>Unable to list the previous versions of this file.</source>
-        <translation>Unable to list the previous versions of this file.</translation>
+        <translation>Die früheren Versionen dieser Datei können nicht aufgelistet werden.</translation>
     </message>
     <message>
         <source>Unable to create a sharing link for this file.</source>
-        <translation>Unable to create a sharing link for this file.</translation>
+        <translation>Für diese Datei kann kein Freigabelink erstellt werden.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -721,395 +721,395 @@
     </message>
     <message>
         <source>Double-click the tray icon to open the sync folder</source>
-        <translation>Double-click the tray icon to open the sync folder</translation>
+        <translation>Doppelklicken Sie auf das Taskleistensymbol, um den Synchronisierungsordner zu öffnen</translation>
     </message>
     <message>
         <source>Indexing folder...</source>
-        <translation>Indexing folder...</translation>
+        <translation>Ordner wird indiziert ...</translation>
     </message>
     <message>
         <source>Welcome to the Nimbulo Pelora Setup Wizard</source>
-        <translation>Welcome to the Nimbulo Pelora Setup Wizard</translation>
+        <translation>Willkommen beim Setup-Assistenten für Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be initialized.</source>
-        <translation>Nimbulo Pelora could not be initialized.</translation>
+        <translation>Nimbulo Pelora konnte nicht initialisiert werden.</translation>
     </message>
     <message>
         <source>&lt; Back</source>
-        <translation>&lt; Back</translation>
+        <translation>&lt; Zurück</translation>
     </message>
     <message>
         <source>Ready to Install Nimbulo Pelora</source>
-        <translation>Ready to Install Nimbulo Pelora</translation>
+        <translation>Bereit zur Installation von Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
-        <translation>Some files that need to be updated are currently in use.</translation>
+        <translation>Einige Dateien, die aktualisiert werden müssen, werden zurzeit verwendet.</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation>Yes</translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>End-User License Agreement</source>
-        <translation>End-User License Agreement</translation>
+        <translation>Endbenutzer-Lizenzvertrag</translation>
     </message>
     <message>
         <source>Completed the Nimbulo Pelora Setup Wizard</source>
-        <translation>Completed the Nimbulo Pelora Setup Wizard</translation>
+        <translation>Der Setup-Assistent für Nimbulo Pelora wurde abgeschlossen</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation>Print</translation>
+        <translation>Drucken</translation>
     </message>
     <message>
         <source>Do not close applications. A reboot will be required.</source>
-        <translation>Do not close applications. A reboot will be required.</translation>
+        <translation>Anwendungen nicht schließen. Ein Neustart ist erforderlich.</translation>
     </message>
     <message>
         <source>Setup Error</source>
-        <translation>Setup Error</translation>
+        <translation>Setupfehler</translation>
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation>Click the Finish button to exit the Setup Wizard.</translation>
+        <translation>Klicken Sie auf „Fertig stellen“, um den Setup-Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been installed successfully.</source>
-        <translation>Nimbulo Pelora has been installed successfully.</translation>
+        <translation>Nimbulo Pelora wurde erfolgreich installiert.</translation>
     </message>
     <message>
         <source>Launch Nimbulo Pelora</source>
-        <translation>Launch Nimbulo Pelora</translation>
+        <translation>Nimbulo Pelora starten</translation>
     </message>
     <message>
         <source>Change, repair, or remove installation</source>
-        <translation>Change, repair, or remove installation</translation>
+        <translation>Installation ändern, reparieren oder entfernen</translation>
     </message>
     <message>
         <source>Lets you change the way features are installed.</source>
-        <translation>Lets you change the way features are installed.</translation>
+        <translation>Hiermit können Sie ändern, wie Funktionen installiert werden.</translation>
     </message>
     <message>
         <source>The sync folder is on a volume that is not mounted.</source>
-        <translation>The sync folder is on a volume that is not mounted.</translation>
+        <translation>Der Synchronisierungsordner befindet sich auf einem nicht eingehängten Volume.</translation>
     </message>
     <message>
         <source>The file version is invalid.</source>
-        <translation>The file version is invalid.</translation>
+        <translation>Die Dateiversion ist ungültig.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation>Remove</translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the Nimbulo Pelora installation?</source>
-        <translation>Are you sure you want to cancel the Nimbulo Pelora installation?</translation>
+        <translation>Möchten Sie die Installation von Nimbulo Pelora wirklich abbrechen?</translation>
     </message>
     <message>
         <source>Download only</source>
-        <translation>Download only</translation>
+        <translation>Nur herunterladen</translation>
     </message>
     <message>
         <source>You have read-only access to this folder. Changes you make here are not uploaded.</source>
-        <translation>You have read-only access to this folder. Changes you make here are not uploaded.</translation>
+        <translation>Sie haben nur Lesezugriff auf diesen Ordner. Ihre Änderungen hier werden nicht hochgeladen.</translation>
     </message>
     <message>
         <source>Please read the following license agreement carefully.</source>
-        <translation>Please read the following license agreement carefully.</translation>
+        <translation>Bitte lesen Sie den folgenden Lizenzvertrag sorgfältig durch.</translation>
     </message>
     <message>
         <source>Please read the license agreement and accept it to continue.</source>
-        <translation>Please read the license agreement and accept it to continue.</translation>
+        <translation>Bitte lesen Sie den Lizenzvertrag und akzeptieren Sie ihn, um fortzufahren.</translation>
     </message>
     <message>
         <source>Cancel Setup</source>
-        <translation>Cancel Setup</translation>
+        <translation>Setup abbrechen</translation>
     </message>
     <message>
         <source>Nimbulo Pelora keeps the files on this computer in sync with your NAS.</source>
-        <translation>Nimbulo Pelora keeps the files on this computer in sync with your NAS.</translation>
+        <translation>Nimbulo Pelora hält die Dateien auf diesem Computer mit Ihrem NAS synchron.</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation>Ignore</translation>
+        <translation>Ignorieren</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation>Install</translation>
+        <translation>Installieren</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation>Read-only</translation>
+        <translation>Schreibgeschützt</translation>
     </message>
     <message>
         <source>Next &gt;</source>
-        <translation>Next &gt;</translation>
+        <translation>Weiter &gt;</translation>
     </message>
     <message>
         <source>No</source>
-        <translation>No</translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation>Repair</translation>
+        <translation>Reparieren</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation>Retry</translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Sync Status</source>
-        <translation>Sync Status</translation>
+        <translation>Synchronisierungsstatus</translation>
     </message>
     <message>
         <source>The local sync folder &quot;%1&quot; cannot be found. It may have been moved or deleted.</source>
-        <translation>The local sync folder &quot;%1&quot; cannot be found. It may have been moved or deleted.</translation>
+        <translation>Der lokale Synchronisierungsordner „%1“ wurde nicht gefunden. Er wurde möglicherweise verschoben oder gelöscht.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora Setup ended prematurely because of an error. Your system has not been modified.</source>
-        <translation>Nimbulo Pelora Setup ended prematurely because of an error. Your system has not been modified.</translation>
+        <translation>Das Setup von Nimbulo Pelora wurde aufgrund eines Fehlers vorzeitig beendet. Ihr System wurde nicht geändert.</translation>
     </message>
     <message>
         <source>To install this program at a later time, run the Setup Wizard again. Click Finish to exit.</source>
-        <translation>To install this program at a later time, run the Setup Wizard again. Click Finish to exit.</translation>
+        <translation>Um dieses Programm zu einem späteren Zeitpunkt zu installieren, führen Sie den Setup-Assistenten erneut aus. Klicken Sie zum Beenden auf „Fertig stellen“.</translation>
     </message>
     <message>
         <source>Setup Ended Prematurely</source>
-        <translation>Setup Ended Prematurely</translation>
+        <translation>Setup vorzeitig beendet</translation>
     </message>
     <message>
         <source>Close all applications and try to restart them.</source>
-        <translation>Close all applications and try to restart them.</translation>
+        <translation>Alle Anwendungen schließen und versuchen, sie neu zu starten.</translation>
     </message>
     <message>
         <source>Close the applications that use files Setup needs to update.</source>
-        <translation>Close the applications that use files Setup needs to update.</translation>
+        <translation>Schließen Sie die Anwendungen, die Dateien verwenden, die das Setup aktualisieren muss.</translation>
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</source>
-        <translation>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</translation>
+        <translation>Die folgenden Anwendungen verwenden Dateien, die das Setup aktualisieren muss. Schließen Sie diese Anwendungen, und klicken Sie auf „Wiederholen“, um fortzufahren.</translation>
     </message>
     <message>
         <source>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts and registry entries.</source>
-        <translation>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts and registry entries.</translation>
+        <translation>Behebt Fehler in der letzten Installation, indem fehlende und beschädigte Dateien, Verknüpfungen und Registrierungseinträge repariert werden.</translation>
     </message>
     <message>
         <source>The following applications are using files that need to be updated.\nClose them, or let Setup close them and attempt to restart them.</source>
-        <translation>The following applications are using files that need to be updated.\nClose them, or let Setup close them and attempt to restart them.</translation>
+        <translation>Die folgenden Anwendungen verwenden Dateien, die aktualisiert werden müssen.\nSchließen Sie diese Anwendungen, oder lassen Sie sie vom Setup schließen und neu starten.</translation>
     </message>
     <message>
         <source>Files in Use</source>
-        <translation>Files in Use</translation>
+        <translation>Dateien in Verwendung</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has no independent features to select.</source>
-        <translation>Nimbulo Pelora has no independent features to select.</translation>
+        <translation>Nimbulo Pelora enthält keine separat auswählbaren Funktionen.</translation>
     </message>
     <message>
         <source>Change the installed features</source>
-        <translation>Change the installed features</translation>
+        <translation>Installierte Funktionen ändern</translation>
     </message>
     <message>
         <source>Select the operation you wish to perform.</source>
-        <translation>Select the operation you wish to perform.</translation>
+        <translation>Wählen Sie den gewünschten Vorgang aus.</translation>
     </message>
     <message>
         <source>Removes Nimbulo Pelora from your computer.</source>
-        <translation>Removes Nimbulo Pelora from your computer.</translation>
+        <translation>Entfernt Nimbulo Pelora von Ihrem Computer.</translation>
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation>Remove the installation</translation>
+        <translation>Installation entfernen</translation>
     </message>
     <message>
         <source>Repair the installation</source>
-        <translation>Repair the installation</translation>
+        <translation>Installation reparieren</translation>
     </message>
     <message>
         <source>Select the operation you wish to perform.\nYour sync settings are kept.</source>
-        <translation>Select the operation you wish to perform.\nYour sync settings are kept.</translation>
+        <translation>Wählen Sie den gewünschten Vorgang aus.\nIhre Synchronisierungseinstellungen bleiben erhalten.</translation>
     </message>
     <message>
         <source>The Setup Wizard allows you to change the way Nimbulo Pelora is installed, repair it, or remove it from your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>The Setup Wizard allows you to change the way Nimbulo Pelora is installed, repair it, or remove it from your computer. Click Next to continue or Cancel to exit.</translation>
+        <translation>Mit dem Setup-Assistenten können Sie die Installation von Nimbulo Pelora ändern, reparieren oder Nimbulo Pelora von Ihrem Computer entfernen. Klicken Sie auf „Weiter“, um fortzufahren, oder auf „Abbrechen“, um den Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>Welcome to Nimbulo Pelora Setup</source>
-        <translation>Welcome to Nimbulo Pelora Setup</translation>
+        <translation>Willkommen beim Setup von Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Nimbulo Pelora.</source>
-        <translation>Please wait while the Setup Wizard installs Nimbulo Pelora.</translation>
+        <translation>Bitte warten Sie, während der Setup-Assistent Nimbulo Pelora installiert.</translation>
     </message>
     <message>
         <source>This may take a few minutes.</source>
-        <translation>This may take a few minutes.</translation>
+        <translation>Dies kann einige Minuten dauern.</translation>
     </message>
     <message>
         <source>Installing Nimbulo Pelora...</source>
-        <translation>Installing Nimbulo Pelora...</translation>
+        <translation>Nimbulo Pelora wird installiert ...</translation>
     </message>
     <message>
         <source>Installing Nimbulo Pelora</source>
-        <translation>Installing Nimbulo Pelora</translation>
+        <translation>Nimbulo Pelora wird installiert</translation>
     </message>
     <message>
         <source>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</translation>
+        <translation>Klicken Sie auf „Installieren“, um die Installation zu starten. Klicken Sie auf „Zurück“, um Ihre Installationseinstellungen zu überprüfen oder zu ändern. Klicken Sie auf „Abbrechen“, um den Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the installation.</source>
-        <translation>The Setup Wizard is ready to begin the installation.</translation>
+        <translation>Der Setup-Assistent ist bereit, mit der Installation zu beginnen.</translation>
     </message>
     <message>
         <source>Click Install to begin.</source>
-        <translation>Click Install to begin.</translation>
+        <translation>Klicken Sie auf „Installieren“, um zu beginnen.</translation>
     </message>
     <message>
         <source>Click Remove to remove Nimbulo Pelora from your computer. Your synced files are kept.</source>
-        <translation>Click Remove to remove Nimbulo Pelora from your computer. Your synced files are kept.</translation>
+        <translation>Klicken Sie auf „Entfernen“, um Nimbulo Pelora von Ihrem Computer zu entfernen. Ihre synchronisierten Dateien bleiben erhalten.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to remove Nimbulo Pelora.</source>
-        <translation>The Setup Wizard is ready to remove Nimbulo Pelora.</translation>
+        <translation>Der Setup-Assistent ist bereit, Nimbulo Pelora zu entfernen.</translation>
     </message>
     <message>
         <source>Click Remove to begin.</source>
-        <translation>Click Remove to begin.</translation>
+        <translation>Klicken Sie auf „Entfernen“, um zu beginnen.</translation>
     </message>
     <message>
         <source>Remove Nimbulo Pelora</source>
-        <translation>Remove Nimbulo Pelora</translation>
+        <translation>Nimbulo Pelora entfernen</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of Nimbulo Pelora.</source>
-        <translation>Click Repair to repair the installation of Nimbulo Pelora.</translation>
+        <translation>Klicken Sie auf „Reparieren“, um die Installation von Nimbulo Pelora zu reparieren.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to repair Nimbulo Pelora.</source>
-        <translation>The Setup Wizard is ready to repair Nimbulo Pelora.</translation>
+        <translation>Der Setup-Assistent ist bereit, Nimbulo Pelora zu reparieren.</translation>
     </message>
     <message>
         <source>Click Repair to begin.</source>
-        <translation>Click Repair to begin.</translation>
+        <translation>Klicken Sie auf „Reparieren“, um zu beginnen.</translation>
     </message>
     <message>
         <source>Repair Nimbulo Pelora</source>
-        <translation>Repair Nimbulo Pelora</translation>
+        <translation>Nimbulo Pelora reparieren</translation>
     </message>
     <message>
         <source>Nimbulo Pelora Setup was interrupted. Your system has not been modified.</source>
-        <translation>Nimbulo Pelora Setup was interrupted. Your system has not been modified.</translation>
+        <translation>Das Setup von Nimbulo Pelora wurde unterbrochen. Ihr System wurde nicht geändert.</translation>
     </message>
     <message>
         <source>To install this program at a later time, run the installation again. Click Finish to exit the wizard.</source>
-        <translation>To install this program at a later time, run the installation again. Click Finish to exit the wizard.</translation>
+        <translation>Um dieses Programm zu einem späteren Zeitpunkt zu installieren, führen Sie die Installation erneut aus. Klicken Sie auf „Fertig stellen“, um den Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>Setup Interrupted</source>
-        <translation>Setup Interrupted</translation>
+        <translation>Setup unterbrochen</translation>
     </message>
     <message>
         <source>The Setup Wizard will install Nimbulo Pelora on your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>The Setup Wizard will install Nimbulo Pelora on your computer. Click Next to continue or Cancel to exit.</translation>
+        <translation>Der Setup-Assistent installiert Nimbulo Pelora auf Ihrem Computer. Klicken Sie auf „Weiter“, um fortzufahren, oder auf „Abbrechen“, um den Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>Change, repair or remove Nimbulo Pelora.</source>
-        <translation>Change, repair or remove Nimbulo Pelora.</translation>
+        <translation>Nimbulo Pelora ändern, reparieren oder entfernen.</translation>
     </message>
     <message>
         <source>Setup has finished.</source>
-        <translation>Setup has finished.</translation>
+        <translation>Das Setup ist abgeschlossen.</translation>
     </message>
     <message>
         <source>Setup was cancelled.</source>
-        <translation>Setup was cancelled.</translation>
+        <translation>Das Setup wurde abgebrochen.</translation>
     </message>
     <message>
         <source>An error occurred during setup.</source>
-        <translation>An error occurred during setup.</translation>
+        <translation>Während des Setups ist ein Fehler aufgetreten.</translation>
     </message>
     <message>
         <source>This wizard guides you through the installation.</source>
-        <translation>This wizard guides you through the installation.</translation>
+        <translation>Dieser Assistent führt Sie durch die Installation.</translation>
     </message>
     <message>
         <source>I accept the terms in the License Agreement</source>
-        <translation>I accept the terms in the License Agreement</translation>
+        <translation>Ich akzeptiere die Bedingungen des Lizenzvertrags</translation>
     </message>
     <message>
         <source>Connect to Another NAS</source>
-        <translation>Connect to Another NAS</translation>
+        <translation>Mit einem anderen NAS verbinden</translation>
     </message>
     <message>
         <source>Sync History</source>
-        <translation>Sync History</translation>
+        <translation>Synchronisierungsverlauf</translation>
     </message>
     <message>
         <source>Sync enabled</source>
-        <translation>Sync enabled</translation>
+        <translation>Synchronisierung aktiviert</translation>
     </message>
     <message>
         <source>Folders to Sync</source>
-        <translation>Folders to Sync</translation>
+        <translation>Zu synchronisierende Ordner</translation>
     </message>
     <message>
         <source>Your files, on every device.</source>
-        <translation>Your files, on every device.</translation>
+        <translation>Ihre Dateien auf allen Geräten.</translation>
     </message>
     <message>
         <source>Your files will now sync in the background. You can find them in %1.</source>
-        <translation>Your files will now sync in the background. You can find them in %1.</translation>
+        <translation>Ihre Dateien werden jetzt im Hintergrund synchronisiert. Sie finden sie unter %1.</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink the sync task &quot;%1&quot;? Files already on this computer are kept.</source>
-        <translation>Are you sure you want to unlink the sync task &quot;%1&quot;? Files already on this computer are kept.</translation>
+        <translation>Möchten Sie die Verknüpfung der Synchronisierungsaufgabe „%1“ wirklich aufheben? Dateien, die sich bereits auf diesem Computer befinden, bleiben erhalten.</translation>
     </message>
     <message>
         <source>File Filters</source>
-        <translation>File Filters</translation>
+        <translation>Dateifilter</translation>
     </message>
     <message>
         <source>Created</source>
-        <translation>Created</translation>
+        <translation>Erstellt</translation>
     </message>
     <message>
         <source>Show an icon on files that are not synced</source>
-        <translation>Show an icon on files that are not synced</translation>
+        <translation>Symbol an Dateien anzeigen, die nicht synchronisiert werden</translation>
     </message>
     <message>
         <source>The relay ID &quot;%1&quot; does not exist.</source>
-        <translation>The relay ID &quot;%1&quot; does not exist.</translation>
+        <translation>Die Relay-ID „%1“ existiert nicht.</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation>Yesterday</translation>
+        <translation>Gestern</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation>Preferences</translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Sync Tasks</source>
-        <translation>Sync Tasks</translation>
+        <translation>Synchronisierungsaufgaben</translation>
     </message>
     <message>
         <source>The server has changed. Please check your sync tasks.</source>
-        <translation>The server has changed. Please check your sync tasks.</translation>
+        <translation>Der Server hat sich geändert. Bitte überprüfen Sie Ihre Synchronisierungsaufgaben.</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server.</source>
-        <translation>The shared folder is not mounted on the server.</translation>
+        <translation>Der freigegebene Ordner ist auf dem Server nicht eingehängt.</translation>
     </message>
     <message>
         <source>The remote folder is not available. It may be on an encrypted shared folder that is not mounted.</source>
-        <translation>The remote folder is not available. It may be on an encrypted shared folder that is not mounted.</translation>
+        <translation>Der Remote-Ordner ist nicht verfügbar. Er befindet sich möglicherweise in einem verschlüsselten freigegebenen Ordner, der nicht eingehängt ist.</translation>
     </message>
     <message>
         <source>Files beginning with a dot</source>
-        <translation>Files beginning with a dot</translation>
+        <translation>Dateien, die mit einem Punkt beginnen</translation>
     </message>
     <message>
         <source>Nimbulo Pelora %1 is already installed.\nDo you want to reinstall it?</source>
@@ -1121,519 +1121,519 @@
     </message>
     <message>
         <source>Sync your files with Nimbulo Pelora</source>
-        <translation>Sync your files with Nimbulo Pelora</translation>
+        <translation>Synchronisieren Sie Ihre Dateien mit Nimbulo Pelora</translation>
     </message>
     <message>
         <source>File sharing is not available over a LinkVane connection.</source>
-        <translation>File sharing is not available over a LinkVane connection.</translation>
+        <translation>Die Dateifreigabe ist über eine LinkVane-Verbindung nicht verfügbar.</translation>
     </message>
     <message>
         <source>Tue</source>
-        <translation>Tue</translation>
+        <translation>Di</translation>
     </message>
     <message>
         <source>Open Containing Folder</source>
-        <translation>Open Containing Folder</translation>
+        <translation>Übergeordneten Ordner öffnen</translation>
     </message>
     <message>
         <source>Choose how you want to set up Nimbulo Pelora.</source>
-        <translation>Choose how you want to set up Nimbulo Pelora.</translation>
+        <translation>Wählen Sie, wie Sie Nimbulo Pelora einrichten möchten.</translation>
     </message>
     <message>
         <source>Quick Setup</source>
-        <translation>Quick Setup</translation>
+        <translation>Schnelleinrichtung</translation>
     </message>
     <message>
         <source>Right-click a file in the sync folder to share it or browse its previous versions.</source>
-        <translation>Right-click a file in the sync folder to share it or browse its previous versions.</translation>
+        <translation>Klicken Sie mit der rechten Maustaste auf eine Datei im Synchronisierungsordner, um sie freizugeben oder ihre früheren Versionen zu durchsuchen.</translation>
     </message>
     <message>
         <source>Got it</source>
-        <translation>Got it</translation>
+        <translation>Verstanden</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation>Search</translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Open the tray menu at any time to see what is syncing.</source>
-        <translation>Open the tray menu at any time to see what is syncing.</translation>
+        <translation>Öffnen Sie jederzeit das Taskleistenmenü, um zu sehen, was gerade synchronisiert wird.</translation>
     </message>
     <message>
         <source>Changes you make are uploaded as soon as you save them.</source>
-        <translation>Changes you make are uploaded as soon as you save them.</translation>
+        <translation>Ihre Änderungen werden hochgeladen, sobald Sie sie speichern.</translation>
     </message>
     <message>
         <source>%1 hours ago</source>
-        <translation>%1 hours ago</translation>
+        <translation>Vor %1 Stunden</translation>
     </message>
     <message>
         <source>Do Not Sync This Folder</source>
-        <translation>Do Not Sync This Folder</translation>
+        <translation>Diesen Ordner nicht synchronisieren</translation>
     </message>
     <message>
         <source>History</source>
-        <translation>History</translation>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation>Folder</translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Create a new folder on the NAS to sync with this computer.</source>
-        <translation>Create a new folder on the NAS to sync with this computer.</translation>
+        <translation>Erstellen Sie einen neuen Ordner auf dem NAS, der mit diesem Computer synchronisiert wird.</translation>
     </message>
     <message>
         <source>From</source>
-        <translation>From</translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>Folder Already Synced</source>
-        <translation>Folder Already Synced</translation>
+        <translation>Ordner bereits synchronisiert</translation>
     </message>
     <message>
         <source>This folder is already being synced by another sync task.</source>
-        <translation>This folder is already being synced by another sync task.</translation>
+        <translation>Dieser Ordner wird bereits von einer anderen Synchronisierungsaufgabe synchronisiert.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation>Rename</translation>
+        <translation>Umbenennen</translation>
     </message>
     <message>
         <source>Preparing to sync...</source>
-        <translation>Preparing to sync...</translation>
+        <translation>Synchronisierung wird vorbereitet ...</translation>
     </message>
     <message>
         <source>Recently Changed</source>
-        <translation>Recently Changed</translation>
+        <translation>Kürzlich geändert</translation>
     </message>
     <message>
         <source>%1 days ago</source>
-        <translation>%1 days ago</translation>
+        <translation>Vor %1 Tagen</translation>
     </message>
     <message>
         <source>Just now</source>
-        <translation>Just now</translation>
+        <translation>Gerade eben</translation>
     </message>
     <message>
         <source>%1 minutes ago</source>
-        <translation>%1 minutes ago</translation>
+        <translation>Vor %1 Minuten</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation>%1 items</translation>
+        <translation>%1 Elemente</translation>
     </message>
     <message>
         <source>Modified Time</source>
-        <translation>Modified Time</translation>
+        <translation>Änderungszeit</translation>
     </message>
     <message>
         <source>Keyword</source>
-        <translation>Keyword</translation>
+        <translation>Stichwort</translation>
     </message>
     <message>
         <source>Last month</source>
-        <translation>Last month</translation>
+        <translation>Letzter Monat</translation>
     </message>
     <message>
         <source>Last week</source>
-        <translation>Last week</translation>
+        <translation>Letzte Woche</translation>
     </message>
     <message>
         <source>Resume Syncing This Folder</source>
-        <translation>Resume Syncing This Folder</translation>
+        <translation>Synchronisierung dieses Ordners fortsetzen</translation>
     </message>
     <message>
         <source>Resume Syncing These Folders</source>
-        <translation>Resume Syncing These Folders</translation>
+        <translation>Synchronisierung dieser Ordner fortsetzen</translation>
     </message>
     <message>
         <source>Do Not Sync These Folders</source>
-        <translation>Do Not Sync These Folders</translation>
+        <translation>Diese Ordner nicht synchronisieren</translation>
     </message>
     <message>
         <source>No data</source>
-        <translation>No data</translation>
+        <translation>Keine Daten</translation>
     </message>
     <message>
         <source>Send to</source>
-        <translation>Send to</translation>
+        <translation>Senden an</translation>
     </message>
     <message>
         <source>Currently syncing: %1</source>
-        <translation>Currently syncing: %1</translation>
+        <translation>Wird synchronisiert: %1</translation>
     </message>
     <message>
         <source>File</source>
-        <translation>File</translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Search by file name</source>
-        <translation>Search by file name</translation>
+        <translation>Nach Dateiname suchen</translation>
     </message>
     <message>
         <source>File Type</source>
-        <translation>File Type</translation>
+        <translation>Dateityp</translation>
     </message>
     <message>
         <source>Fri</source>
-        <translation>Fri</translation>
+        <translation>Fr</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation>Event</translation>
+        <translation>Ereignis</translation>
     </message>
     <message>
         <source>All events</source>
-        <translation>All events</translation>
+        <translation>Alle Ereignisse</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation>Custom</translation>
+        <translation>Benutzerdefiniert</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>Date</translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Date range</source>
-        <translation>Date range</translation>
+        <translation>Zeitraum</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation>Download</translation>
+        <translation>Herunterladen</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation>Reset</translation>
+        <translation>Zurücksetzen</translation>
     </message>
     <message>
         <source>To</source>
-        <translation>To</translation>
+        <translation>Bis</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation>Type</translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Upload</source>
-        <translation>Upload</translation>
+        <translation>Hochladen</translation>
     </message>
     <message>
         <source>Mon</source>
-        <translation>Mon</translation>
+        <translation>Mo</translation>
     </message>
     <message>
         <source>Apr</source>
-        <translation>Apr</translation>
+        <translation>Apr.</translation>
     </message>
     <message>
         <source>Aug</source>
-        <translation>Aug</translation>
+        <translation>Aug.</translation>
     </message>
     <message>
         <source>Dec</source>
-        <translation>Dec</translation>
+        <translation>Dez.</translation>
     </message>
     <message>
         <source>Feb</source>
-        <translation>Feb</translation>
+        <translation>Feb.</translation>
     </message>
     <message>
         <source>Jan</source>
-        <translation>Jan</translation>
+        <translation>Jan.</translation>
     </message>
     <message>
         <source>Jul</source>
-        <translation>Jul</translation>
+        <translation>Juli</translation>
     </message>
     <message>
         <source>Jun</source>
-        <translation>Jun</translation>
+        <translation>Juni</translation>
     </message>
     <message>
         <source>Mar</source>
-        <translation>Mar</translation>
+        <translation>März</translation>
     </message>
     <message>
         <source>May</source>
-        <translation>May</translation>
+        <translation>Mai</translation>
     </message>
     <message>
         <source>Nov</source>
-        <translation>Nov</translation>
+        <translation>Nov.</translation>
     </message>
     <message>
         <source>Oct</source>
-        <translation>Oct</translation>
+        <translation>Okt.</translation>
     </message>
     <message>
         <source>Sep</source>
-        <translation>Sep</translation>
+        <translation>Sep.</translation>
     </message>
     <message>
         <source>Sat</source>
-        <translation>Sat</translation>
+        <translation>Sa</translation>
     </message>
     <message>
         <source>Sun</source>
-        <translation>Sun</translation>
+        <translation>So</translation>
     </message>
     <message>
         <source>Thu</source>
-        <translation>Thu</translation>
+        <translation>Do</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation>Today</translation>
+        <translation>Heute</translation>
     </message>
     <message>
         <source>Wed</source>
-        <translation>Wed</translation>
+        <translation>Mi</translation>
     </message>
     <message>
         <source>Advanced Mode</source>
-        <translation>Advanced Mode</translation>
+        <translation>Erweiterter Modus</translation>
     </message>
     <message>
         <source>Don&apos;t show this message again</source>
-        <translation>Don&apos;t show this message again</translation>
+        <translation>Diese Meldung nicht mehr anzeigen</translation>
     </message>
     <message>
         <source>Your files are now syncing with the folder &quot;%1&quot; on the NAS.</source>
-        <translation>Your files are now syncing with the folder &quot;%1&quot; on the NAS.</translation>
+        <translation>Ihre Dateien werden jetzt mit dem Ordner „%1“ auf dem NAS synchronisiert.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been set up. Your home folder on the NAS is now synced with this computer.</source>
-        <translation>Nimbulo Pelora has been set up. Your home folder on the NAS is now synced with this computer.</translation>
+        <translation>Nimbulo Pelora ist eingerichtet. Ihr Home-Ordner auf dem NAS wird jetzt mit diesem Computer synchronisiert.</translation>
     </message>
     <message>
         <source>Setup Complete</source>
-        <translation>Setup Complete</translation>
+        <translation>Einrichtung abgeschlossen</translation>
     </message>
     <message>
         <source>Files you put in the sync folder are kept up to date on the NAS and on your other devices.</source>
-        <translation>Files you put in the sync folder are kept up to date on the NAS and on your other devices.</translation>
+        <translation>Dateien, die Sie in den Synchronisierungsordner legen, werden auf dem NAS und auf Ihren anderen Geräten aktuell gehalten.</translation>
     </message>
     <message>
         <source>The tray icon shows the sync status at a glance.</source>
-        <translation>The tray icon shows the sync status at a glance.</translation>
+        <translation>Das Taskleistensymbol zeigt den Synchronisierungsstatus auf einen Blick.</translation>
     </message>
     <message>
         <source>Setup Mode</source>
-        <translation>Setup Mode</translation>
+        <translation>Einrichtungsmodus</translation>
     </message>
     <message>
         <source>Sync your home folder on the NAS with a folder on this computer.</source>
-        <translation>Sync your home folder on the NAS with a folder on this computer.</translation>
+        <translation>Synchronisieren Sie Ihren Home-Ordner auf dem NAS mit einem Ordner auf diesem Computer.</translation>
     </message>
     <message>
         <source>No, thanks</source>
-        <translation>No, thanks</translation>
+        <translation>Nein, danke</translation>
     </message>
     <message>
         <source>Welcome</source>
-        <translation>Welcome</translation>
+        <translation>Willkommen</translation>
     </message>
     <message>
         <source>Sync Folder</source>
-        <translation>Sync Folder</translation>
+        <translation>Synchronisierungsordner</translation>
     </message>
     <message>
         <source>Tray Icon</source>
-        <translation>Tray Icon</translation>
+        <translation>Taskleistensymbol</translation>
     </message>
     <message>
         <source>Sharing and Versions</source>
-        <translation>Sharing and Versions</translation>
+        <translation>Freigabe und Versionen</translation>
     </message>
     <message>
         <source>Search for NAS on the local network</source>
-        <translation>Search for NAS on the local network</translation>
+        <translation>Im lokalen Netzwerk nach NAS suchen</translation>
     </message>
     <message>
         <source>Connect with LinkVane</source>
-        <translation>Connect with LinkVane</translation>
+        <translation>Mit LinkVane verbinden</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Password:</translation>
+        <translation>Kennwort:</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation>Username:</translation>
+        <translation>Benutzername:</translation>
     </message>
     <message>
         <source>Welcome to Nimbulo Pelora</source>
-        <translation>Welcome to Nimbulo Pelora</translation>
+        <translation>Willkommen bei Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Show Main Window</source>
-        <translation>Show Main Window</translation>
+        <translation>Hauptfenster anzeigen</translation>
     </message>
     <message>
         <source>Update Available</source>
-        <translation>Update Available</translation>
+        <translation>Update verfügbar</translation>
     </message>
     <message>
         <source>Folder on the NAS</source>
-        <translation>Folder on the NAS</translation>
+        <translation>Ordner auf dem NAS</translation>
     </message>
     <message>
         <source>New Sync Folder</source>
-        <translation>New Sync Folder</translation>
+        <translation>Neuer Synchronisierungsordner</translation>
     </message>
     <message>
         <source>Sync a new folder</source>
-        <translation>Sync a new folder</translation>
+        <translation>Neuen Ordner synchronisieren</translation>
     </message>
     <message>
         <source>Advanced Setup</source>
-        <translation>Advanced Setup</translation>
+        <translation>Erweiterte Einrichtung</translation>
     </message>
     <message>
         <source>Open Sync Status</source>
-        <translation>Open Sync Status</translation>
+        <translation>Synchronisierungsstatus öffnen</translation>
     </message>
     <message>
         <source>Choose which folder on the NAS to sync, where to keep it on this computer, and how to sync it.</source>
-        <translation>Choose which folder on the NAS to sync, where to keep it on this computer, and how to sync it.</translation>
+        <translation>Wählen Sie, welcher Ordner auf dem NAS synchronisiert wird, wo er auf diesem Computer gespeichert wird und wie er synchronisiert wird.</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation>Done</translation>
+        <translation>Fertig</translation>
     </message>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
-        <translation>Files larger than %1 MB will not be synced.</translation>
+        <translation>Dateien größer als %1 MB werden nicht synchronisiert.</translation>
     </message>
     <message>
         <source>Find NAS on the local network</source>
-        <translation>Find NAS on the local network</translation>
+        <translation>NAS im lokalen Netzwerk suchen</translation>
     </message>
     <message>
         <source>You only have read permission for &quot;%1&quot;. Changes made on this computer will not be uploaded.</source>
-        <translation>You only have read permission for &quot;%1&quot;. Changes made on this computer will not be uploaded.</translation>
+        <translation>Sie haben für „%1“ nur Leseberechtigung. Änderungen auf diesem Computer werden nicht hochgeladen.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be used as a sync folder.</source>
-        <translation>&quot;%1&quot; cannot be used as a sync folder.</translation>
+        <translation>„%1“ kann nicht als Synchronisierungsordner verwendet werden.</translation>
     </message>
     <message>
         <source>More Tips</source>
-        <translation>More Tips</translation>
+        <translation>Weitere Tipps</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; overlaps with the sync folder of another task.</source>
-        <translation>The folder &quot;%1&quot; overlaps with the sync folder of another task.</translation>
+        <translation>Der Ordner „%1“ überschneidet sich mit dem Synchronisierungsordner einer anderen Aufgabe.</translation>
     </message>
     <message>
         <source>This folder is already synced with &quot;%1&quot;.</source>
-        <translation>This folder is already synced with &quot;%1&quot;.</translation>
+        <translation>Dieser Ordner wird bereits mit „%1“ synchronisiert.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is already synced with a folder on the NAS.</source>
-        <translation>The folder &quot;%1&quot; is already synced with a folder on the NAS.</translation>
+        <translation>Der Ordner „%1“ wird bereits mit einem Ordner auf dem NAS synchronisiert.</translation>
     </message>
     <message>
         <source>Create a &quot;Nimbulo&quot; folder in the selected location</source>
-        <translation>Create a &quot;Nimbulo&quot; folder in the selected location</translation>
+        <translation>Ordner „Nimbulo“ am ausgewählten Speicherort erstellen</translation>
     </message>
     <message>
         <source>Copy Sharing Link</source>
-        <translation>Copy Sharing Link</translation>
+        <translation>Freigabelink kopieren</translation>
     </message>
     <message>
         <source>Unable to get a sharing link because sharing is disabled on the server.</source>
-        <translation>Unable to get a sharing link because sharing is disabled on the server.</translation>
+        <translation>Es kann kein Freigabelink abgerufen werden, da die Freigabe auf dem Server deaktiviert ist.</translation>
     </message>
     <message>
         <source>The server&apos;s SSL certificate has changed. Do you trust the new certificate?</source>
-        <translation>The server&apos;s SSL certificate has changed. Do you trust the new certificate?</translation>
+        <translation>Das SSL-Zertifikat des Servers hat sich geändert. Vertrauen Sie dem neuen Zertifikat?</translation>
     </message>
     <message>
         <source>Your IP address is not allowed to connect to this server.</source>
-        <translation>Your IP address is not allowed to connect to this server.</translation>
+        <translation>Ihre IP-Adresse darf keine Verbindung zu diesem Server herstellen.</translation>
     </message>
     <message>
         <source>When the same file has been changed on both sides:</source>
-        <translation>When the same file has been changed on both sides:</translation>
+        <translation>Wenn dieselbe Datei auf beiden Seiten geändert wurde:</translation>
     </message>
     <message>
         <source>The sync direction does not match the permissions of this folder.</source>
-        <translation>The sync direction does not match the permissions of this folder.</translation>
+        <translation>Die Synchronisierungsrichtung passt nicht zu den Berechtigungen dieses Ordners.</translation>
     </message>
     <message>
         <source>Last page</source>
-        <translation>Last page</translation>
+        <translation>Letzte Seite</translation>
     </message>
     <message>
         <source>First page</source>
-        <translation>First page</translation>
+        <translation>Erste Seite</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation>Previous %1 pages</translation>
+        <translation>Vorherige %1 Seiten</translation>
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation>Next %1 pages</translation>
+        <translation>Nächste %1 Seiten</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation>Open File</translation>
+        <translation>Datei öffnen</translation>
     </message>
     <message>
         <source>Open Folder</source>
-        <translation>Open Folder</translation>
+        <translation>Ordner öffnen</translation>
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation>Unlinking...</translation>
+        <translation>Verknüpfung wird aufgehoben ...</translation>
     </message>
     <message>
         <source>Too many failed attempts. Please try again later.</source>
-        <translation>Too many failed attempts. Please try again later.</translation>
+        <translation>Zu viele fehlgeschlagene Versuche. Bitte versuchen Sie es später erneut.</translation>
     </message>
     <message>
         <source>This file is locked by another application.</source>
-        <translation>This file is locked by another application.</translation>
+        <translation>Diese Datei ist durch eine andere Anwendung gesperrt.</translation>
     </message>
     <message>
         <source>Unable to check &quot;%1&quot; because of a network error.</source>
-        <translation>Unable to check &quot;%1&quot; because of a network error.</translation>
+        <translation>„%1“ kann aufgrund eines Netzwerkfehlers nicht geprüft werden.</translation>
     </message>
     <message>
         <source>Keep the most recently modified version</source>
-        <translation>Keep the most recently modified version</translation>
+        <translation>Die zuletzt geänderte Version behalten</translation>
     </message>
     <message>
         <source>Two-way sync</source>
-        <translation>Two-way sync</translation>
+        <translation>Bidirektionale Synchronisierung</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your account.</source>
-        <translation>Enter the address of your NAS and your account.</translation>
+        <translation>Geben Sie die Adresse Ihres NAS und Ihre Kontodaten ein.</translation>
     </message>
     <message>
         <source>Unable to create the local folder &quot;%1&quot;.</source>
-        <translation>Unable to create the local folder &quot;%1&quot;.</translation>
+        <translation>Der lokale Ordner „%1“ kann nicht erstellt werden.</translation>
     </message>
     <message>
         <source>Select a folder on the NAS and a folder on this computer to sync with each other.</source>
-        <translation>Select a folder on the NAS and a folder on this computer to sync with each other.</translation>
+        <translation>Wählen Sie einen Ordner auf dem NAS und einen Ordner auf diesem Computer aus, die miteinander synchronisiert werden sollen.</translation>
     </message>
     <message>
         <source>Set Sync Folders</source>
-        <translation>Set Sync Folders</translation>
+        <translation>Synchronisierungsordner festlegen</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is now syncing &quot;%1&quot; on the NAS with &quot;%2&quot; on this computer.</source>
-        <translation>Nimbulo Pelora is now syncing &quot;%1&quot; on the NAS with &quot;%2&quot; on this computer.</translation>
+        <translation>Nimbulo Pelora synchronisiert jetzt „%1“ auf dem NAS mit „%2“ auf diesem Computer.</translation>
     </message>
     <message>
         <source>When files conflict, the server&apos;s copy is kept and the local copy is backed up.</source>
-        <translation>When files conflict, the server&apos;s copy is kept and the local copy is backed up.</translation>
+        <translation>Bei Konflikten wird die Kopie des Servers behalten und die lokale Kopie gesichert.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora</source>
@@ -1641,43 +1641,43 @@
     </message>
     <message>
         <source>Enable On-demand Sync</source>
-        <translation>Enable On-demand Sync</translation>
+        <translation>Synchronisierung bei Bedarf aktivieren</translation>
     </message>
     <message>
         <source>The verification code is incorrect.</source>
-        <translation>The verification code is incorrect.</translation>
+        <translation>Der Bestätigungscode ist falsch.</translation>
     </message>
     <message>
         <source>This account requires a verification code.</source>
-        <translation>This account requires a verification code.</translation>
+        <translation>Für dieses Konto ist ein Bestätigungscode erforderlich.</translation>
     </message>
     <message>
         <source>Enter the verification code from your authenticator app:</source>
-        <translation>Enter the verification code from your authenticator app:</translation>
+        <translation>Geben Sie den Bestätigungscode aus Ihrer Authentifizierungs-App ein:</translation>
     </message>
     <message>
         <source>Your quota on the NAS is full. &quot;%1&quot; cannot be synced.</source>
-        <translation>Your quota on the NAS is full. &quot;%1&quot; cannot be synced.</translation>
+        <translation>Ihr Kontingent auf dem NAS ist erschöpft. „%1“ kann nicht synchronisiert werden.</translation>
     </message>
     <message>
         <source>The server certificate has changed. Unable to sync &quot;%1&quot;.</source>
-        <translation>The server certificate has changed. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Das Serverzertifikat hat sich geändert. „%1“ kann nicht synchronisiert werden.</translation>
     </message>
     <message>
         <source>The server certificate cannot be verified. Unable to sync &quot;%1&quot;.</source>
-        <translation>The server certificate cannot be verified. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Das Serverzertifikat kann nicht überprüft werden. „%1“ kann nicht synchronisiert werden.</translation>
     </message>
     <message>
         <source>A system error occurred while checking the sync folder.</source>
-        <translation>A system error occurred while checking the sync folder.</translation>
+        <translation>Beim Prüfen des Synchronisierungsordners ist ein Systemfehler aufgetreten.</translation>
     </message>
     <message>
         <source>Overwrite the local copy with the server&apos;s copy</source>
-        <translation>Overwrite the local copy with the server&apos;s copy</translation>
+        <translation>Lokale Kopie mit der Kopie des Servers überschreiben</translation>
     </message>
     <message>
         <source>Keep both copies and rename the local one</source>
-        <translation>Keep both copies and rename the local one</translation>
+        <translation>Beide Kopien behalten und die lokale umbenennen</translation>
     </message>
     <message>
         <source>A newer version of Nimbulo Pelora (%1) is already installed.\nSetup will now exit.</source>
@@ -1693,491 +1693,491 @@
     </message>
     <message>
         <source>No folder that you can sync was found.</source>
-        <translation>No folder that you can sync was found.</translation>
+        <translation>Es wurde kein Ordner gefunden, den Sie synchronisieren können.</translation>
     </message>
     <message>
         <source>Show the tutorial</source>
-        <translation>Show the tutorial</translation>
+        <translation>Tutorial anzeigen</translation>
     </message>
     <message>
         <source>Files in the local folder will be merged with the files on the NAS.</source>
-        <translation>Files in the local folder will be merged with the files on the NAS.</translation>
+        <translation>Dateien im lokalen Ordner werden mit den Dateien auf dem NAS zusammengeführt.</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora when the computer starts</source>
-        <translation>Start Nimbulo Pelora when the computer starts</translation>
+        <translation>Nimbulo Pelora beim Hochfahren des Computers starten</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered an error.</source>
-        <translation>Nimbulo Pelora has encountered an error.</translation>
+        <translation>In Nimbulo Pelora ist ein Fehler aufgetreten.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is running.</source>
-        <translation>Nimbulo Pelora is running.</translation>
+        <translation>Nimbulo Pelora wird ausgeführt.</translation>
     </message>
     <message>
         <source>This version of Nimbulo Pelora is no longer supported. Please update it.</source>
-        <translation>This version of Nimbulo Pelora is no longer supported. Please update it.</translation>
+        <translation>Diese Version von Nimbulo Pelora wird nicht mehr unterstützt. Bitte aktualisieren Sie sie.</translation>
     </message>
     <message>
         <source>Click to update Nimbulo Pelora</source>
-        <translation>Click to update Nimbulo Pelora</translation>
+        <translation>Klicken Sie, um Nimbulo Pelora zu aktualisieren</translation>
     </message>
     <message>
         <source>Please update the sync service on the server to use selective sync.</source>
-        <translation>Please update the sync service on the server to use selective sync.</translation>
+        <translation>Bitte aktualisieren Sie den Synchronisierungsdienst auf dem Server, um die selektive Synchronisierung zu verwenden.</translation>
     </message>
     <message>
         <source>There is not enough free space on this computer to sync &quot;%1&quot;.</source>
-        <translation>There is not enough free space on this computer to sync &quot;%1&quot;.</translation>
+        <translation>Auf diesem Computer ist nicht genügend Speicherplatz frei, um „%1“ zu synchronisieren.</translation>
     </message>
     <message>
         <source>Sign in to your NAS to start syncing.</source>
-        <translation>Sign in to your NAS to start syncing.</translation>
+        <translation>Melden Sie sich bei Ihrem NAS an, um mit der Synchronisierung zu beginnen.</translation>
     </message>
     <message>
         <source>Keep the files on this computer in sync with your NAS.</source>
-        <translation>Keep the files on this computer in sync with your NAS.</translation>
+        <translation>Halten Sie die Dateien auf diesem Computer mit Ihrem NAS synchron.</translation>
     </message>
     <message>
         <source>Shared folder not found</source>
-        <translation>Shared folder not found</translation>
+        <translation>Freigegebener Ordner nicht gefunden</translation>
     </message>
     <message>
         <source>About Nimbulo Pelora</source>
-        <translation>About Nimbulo Pelora</translation>
+        <translation>Über Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Your administrator requires two-step verification. Please enable it in your account settings first.</source>
-        <translation>Your administrator requires two-step verification. Please enable it in your account settings first.</translation>
+        <translation>Ihr Administrator verlangt die Bestätigung in zwei Schritten. Bitte aktivieren Sie sie zuerst in Ihren Kontoeinstellungen.</translation>
     </message>
     <message>
         <source>The quota of the shared folder is full.</source>
-        <translation>The quota of the shared folder is full.</translation>
+        <translation>Das Kontingent des freigegebenen Ordners ist erschöpft.</translation>
     </message>
     <message>
         <source>Sync Direction</source>
-        <translation>Sync Direction</translation>
+        <translation>Synchronisierungsrichtung</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered a problem while syncing. Click for details.</source>
-        <translation>Nimbulo Pelora has encountered a problem while syncing. Click for details.</translation>
+        <translation>Bei der Synchronisierung durch Nimbulo Pelora ist ein Problem aufgetreten. Klicken Sie für Details.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora keeps your files up to date on all of your devices.</source>
-        <translation>Nimbulo Pelora keeps your files up to date on all of your devices.</translation>
+        <translation>Nimbulo Pelora hält Ihre Dateien auf all Ihren Geräten auf dem neuesten Stand.</translation>
     </message>
     <message>
         <source>Some fields contain invalid values.</source>
-        <translation>Some fields contain invalid values.</translation>
+        <translation>Einige Felder enthalten ungültige Werte.</translation>
     </message>
     <message>
         <source>You do not have permission to access &quot;%1&quot;.</source>
-        <translation>You do not have permission to access &quot;%1&quot;.</translation>
+        <translation>Sie sind nicht berechtigt, auf „%1“ zuzugreifen.</translation>
     </message>
     <message>
         <source>Your account has been disabled. Unable to sync &quot;%1&quot;.</source>
-        <translation>Your account has been disabled. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Ihr Konto wurde deaktiviert. „%1“ kann nicht synchronisiert werden.</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Address</translation>
+        <translation>Adresse</translation>
     </message>
     <message>
         <source>Expires after</source>
-        <translation>Expires after</translation>
+        <translation>Läuft ab nach</translation>
     </message>
     <message>
         <source>No options available</source>
-        <translation>No options available</translation>
+        <translation>Keine Optionen verfügbar</translation>
     </message>
     <message>
         <source>You need an account on a NAS with the sync service installed.</source>
-        <translation>You need an account on a NAS with the sync service installed.</translation>
+        <translation>Sie benötigen ein Konto auf einem NAS, auf dem der Synchronisierungsdienst installiert ist.</translation>
     </message>
     <message>
         <source>Authentication failed. Please check your username and password.</source>
-        <translation>Authentication failed. Please check your username and password.</translation>
+        <translation>Authentifizierung fehlgeschlagen. Bitte überprüfen Sie Benutzername und Kennwort.</translation>
     </message>
     <message>
         <source>Use * to match any characters. Separate entries with commas.</source>
-        <translation>Use * to match any characters. Separate entries with commas.</translation>
+        <translation>Verwenden Sie * als Platzhalter für beliebige Zeichen. Trennen Sie Einträge durch Kommas.</translation>
     </message>
     <message>
         <source>One-way download</source>
-        <translation>One-way download</translation>
+        <translation>Nur herunterladen (unidirektional)</translation>
     </message>
     <message>
         <source>A folder named &quot;%1&quot; already exists.</source>
-        <translation>A folder named &quot;%1&quot; already exists.</translation>
+        <translation>Ein Ordner mit dem Namen „%1“ ist bereits vorhanden.</translation>
     </message>
     <message>
         <source>Sync extended attributes</source>
-        <translation>Sync extended attributes</translation>
+        <translation>Erweiterte Attribute synchronisieren</translation>
     </message>
     <message>
         <source>I do not accept the terms in the License Agreement</source>
-        <translation>I do not accept the terms in the License Agreement</translation>
+        <translation>Ich akzeptiere die Bedingungen des Lizenzvertrags nicht</translation>
     </message>
     <message>
         <source>Sharing Link</source>
-        <translation>Sharing Link</translation>
+        <translation>Freigabelink</translation>
     </message>
     <message>
         <source>Expires on</source>
-        <translation>Expires on</translation>
+        <translation>Läuft ab am</translation>
     </message>
     <message>
         <source>This field is required.</source>
-        <translation>This field is required.</translation>
+        <translation>Dieses Feld ist erforderlich.</translation>
     </message>
     <message>
         <source>Restrict access to users with an account</source>
-        <translation>Restrict access to users with an account</translation>
+        <translation>Zugriff auf Benutzer mit Konto beschränken</translation>
     </message>
     <message>
         <source>Show Nimbulo Pelora in the context menu</source>
-        <translation>Show Nimbulo Pelora in the context menu</translation>
+        <translation>Nimbulo Pelora im Kontextmenü anzeigen</translation>
     </message>
     <message>
         <source>The home folder service is disabled on the NAS.</source>
-        <translation>The home folder service is disabled on the NAS.</translation>
+        <translation>Der Home-Ordner-Dienst ist auf dem NAS deaktiviert.</translation>
     </message>
     <message>
         <source>Unable to update Nimbulo Pelora. Please try again later.</source>
-        <translation>Unable to update Nimbulo Pelora. Please try again later.</translation>
+        <translation>Nimbulo Pelora kann nicht aktualisiert werden. Bitte versuchen Sie es später erneut.</translation>
     </message>
     <message>
         <source>Apply and Copy Link</source>
-        <translation>Apply and Copy Link</translation>
+        <translation>Übernehmen und Link kopieren</translation>
     </message>
     <message>
         <source>Limit the number of accesses</source>
-        <translation>Limit the number of accesses</translation>
+        <translation>Anzahl der Zugriffe begrenzen</translation>
     </message>
     <message>
         <source>Available from</source>
-        <translation>Available from</translation>
+        <translation>Verfügbar ab</translation>
     </message>
     <message>
         <source>A new version of Nimbulo Pelora is required to connect to this server. Update now?</source>
-        <translation>A new version of Nimbulo Pelora is required to connect to this server. Update now?</translation>
+        <translation>Für die Verbindung mit diesem Server ist eine neuere Version von Nimbulo Pelora erforderlich. Jetzt aktualisieren?</translation>
     </message>
     <message>
         <source>Add file name</source>
-        <translation>Add file name</translation>
+        <translation>Dateinamen hinzufügen</translation>
     </message>
     <message>
         <source>Local destination</source>
-        <translation>Local destination</translation>
+        <translation>Lokales Ziel</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation>Language</translation>
+        <translation>Sprache</translation>
     </message>
     <message>
         <source>Remote NAS</source>
-        <translation>Remote NAS</translation>
+        <translation>Remote-NAS</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation>This computer</translation>
+        <translation>Dieser Computer</translation>
     </message>
     <message>
         <source>Download the selected version</source>
-        <translation>Download the selected version</translation>
+        <translation>Ausgewählte Version herunterladen</translation>
     </message>
     <message>
         <source>Custom duration</source>
-        <translation>Custom duration</translation>
+        <translation>Benutzerdefinierte Dauer</translation>
     </message>
     <message>
         <source>Refresh sync history</source>
-        <translation>Refresh sync history</translation>
+        <translation>Synchronisierungsverlauf aktualisieren</translation>
     </message>
     <message>
         <source>On-demand Sync</source>
-        <translation>On-demand Sync</translation>
+        <translation>Synchronisierung bei Bedarf</translation>
     </message>
     <message>
         <source>Filter sync history</source>
-        <translation>Filter sync history</translation>
+        <translation>Synchronisierungsverlauf filtern</translation>
     </message>
     <message>
         <source>Add folder</source>
-        <translation>Add folder</translation>
+        <translation>Ordner hinzufügen</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation>Calendar</translation>
+        <translation>Kalender</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation>Next month</translation>
+        <translation>Nächster Monat</translation>
     </message>
     <message>
         <source>Previous month</source>
-        <translation>Previous month</translation>
+        <translation>Vorheriger Monat</translation>
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation>Change sync folder</translation>
+        <translation>Synchronisierungsordner ändern</translation>
     </message>
     <message>
         <source>Event category</source>
-        <translation>Event category</translation>
+        <translation>Ereigniskategorie</translation>
     </message>
     <message>
         <source>Sync task details</source>
-        <translation>Sync task details</translation>
+        <translation>Details der Synchronisierungsaufgabe</translation>
     </message>
     <message>
         <source>Remote destination</source>
-        <translation>Remote destination</translation>
+        <translation>Remote-Ziel</translation>
     </message>
     <message>
         <source>Close tutorial</source>
-        <translation>Close tutorial</translation>
+        <translation>Tutorial schließen</translation>
     </message>
     <message>
         <source>Tutorial: learn how to use Nimbulo Pelora.</source>
-        <translation>Tutorial: learn how to use Nimbulo Pelora.</translation>
+        <translation>Tutorial: So verwenden Sie Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Cancel download</source>
-        <translation>Cancel download</translation>
+        <translation>Download abbrechen</translation>
     </message>
     <message>
         <source>Delete version</source>
-        <translation>Delete version</translation>
+        <translation>Version löschen</translation>
     </message>
     <message>
         <source>Unable to enable On-demand Sync for &quot;%1&quot;.</source>
-        <translation>Unable to enable On-demand Sync for &quot;%1&quot;.</translation>
+        <translation>Die Synchronisierung bei Bedarf kann für „%1“ nicht aktiviert werden.</translation>
     </message>
     <message>
         <source>This file is not available because there is no connection to the server.</source>
-        <translation>This file is not available because there is no connection to the server.</translation>
+        <translation>Diese Datei ist nicht verfügbar, da keine Verbindung zum Server besteht.</translation>
     </message>
     <message>
         <source>Renamed on this computer</source>
-        <translation>Renamed on this computer</translation>
+        <translation>Auf diesem Computer umbenannt</translation>
     </message>
     <message>
         <source>Renamed on the server</source>
-        <translation>Renamed on the server</translation>
+        <translation>Auf dem Server umbenannt</translation>
     </message>
     <message>
         <source>Please enter no more than %1 characters.</source>
-        <translation>Please enter no more than %1 characters.</translation>
+        <translation>Bitte geben Sie höchstens %1 Zeichen ein.</translation>
     </message>
     <message>
         <source>Your password has expired. Please change it on the server and sign in again.</source>
-        <translation>Your password has expired. Please change it on the server and sign in again.</translation>
+        <translation>Ihr Kennwort ist abgelaufen. Bitte ändern Sie es auf dem Server und melden Sie sich erneut an.</translation>
     </message>
     <message>
         <source>This folder was synced by a different user. Please choose another folder.</source>
-        <translation>This folder was synced by a different user. Please choose another folder.</translation>
+        <translation>Dieser Ordner wurde von einem anderen Benutzer synchronisiert. Bitte wählen Sie einen anderen Ordner.</translation>
     </message>
     <message>
         <source>Relay connections are disabled on the server.</source>
-        <translation>Relay connections are disabled on the server.</translation>
+        <translation>Relay-Verbindungen sind auf dem Server deaktiviert.</translation>
     </message>
     <message>
         <source>Authentication failed for &quot;%1&quot;. Please sign in again.</source>
-        <translation>Authentication failed for &quot;%1&quot;. Please sign in again.</translation>
+        <translation>Authentifizierung für „%1“ fehlgeschlagen. Bitte melden Sie sich erneut an.</translation>
     </message>
     <message>
         <source>Unable to get the link to this file.</source>
-        <translation>Unable to get the link to this file.</translation>
+        <translation>Der Link zu dieser Datei kann nicht abgerufen werden.</translation>
     </message>
     <message>
         <source>Temporary files</source>
-        <translation>Temporary files</translation>
+        <translation>Temporäre Dateien</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation>Later</translation>
+        <translation>Später</translation>
     </message>
     <message>
         <source>Congratulations!</source>
-        <translation>Congratulations!</translation>
+        <translation>Herzlichen Glückwunsch!</translation>
     </message>
     <message>
         <source>Folders others have shared with you</source>
-        <translation>Folders others have shared with you</translation>
+        <translation>Ordner, die andere für Sie freigegeben haben</translation>
     </message>
     <message>
         <source>You have read-only access to this folder. Changes you make here stay on this computer.</source>
-        <translation>You have read-only access to this folder. Changes you make here stay on this computer.</translation>
+        <translation>Sie haben nur Lesezugriff auf diesen Ordner. Ihre Änderungen hier bleiben auf diesem Computer.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is now syncing &quot;%1&quot; on the server with &quot;%2&quot; on this computer.</source>
-        <translation>Nimbulo Pelora is now syncing &quot;%1&quot; on the server with &quot;%2&quot; on this computer.</translation>
+        <translation>Nimbulo Pelora synchronisiert jetzt „%1“ auf dem Server mit „%2“ auf diesem Computer.</translation>
     </message>
     <message>
         <source>Show the Nimbulo Pelora tutorial</source>
-        <translation>Show the Nimbulo Pelora tutorial</translation>
+        <translation>Nimbulo Pelora-Tutorial anzeigen</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is running in the background.</source>
-        <translation>Nimbulo Pelora is running in the background.</translation>
+        <translation>Nimbulo Pelora wird im Hintergrund ausgeführt.</translation>
     </message>
     <message>
         <source>Sign in to your server to start syncing.</source>
-        <translation>Sign in to your server to start syncing.</translation>
+        <translation>Melden Sie sich bei Ihrem Server an, um mit der Synchronisierung zu beginnen.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be updated. Please download the latest version and install it again.</source>
-        <translation>Nimbulo Pelora could not be updated. Please download the latest version and install it again.</translation>
+        <translation>Nimbulo Pelora konnte nicht aktualisiert werden. Bitte laden Sie die neueste Version herunter und installieren Sie sie erneut.</translation>
     </message>
     <message>
         <source>You need an account on a server with the sync service installed.</source>
-        <translation>You need an account on a server with the sync service installed.</translation>
+        <translation>Sie benötigen ein Konto auf einem Server, auf dem der Synchronisierungsdienst installiert ist.</translation>
     </message>
     <message>
         <source>Conflicting changes are kept in both copies: the server copy is renamed with the user name.</source>
-        <translation>Conflicting changes are kept in both copies: the server copy is renamed with the user name.</translation>
+        <translation>Bei widersprüchlichen Änderungen werden beide Kopien behalten: Die Kopie auf dem Server wird mit dem Benutzernamen umbenannt.</translation>
     </message>
     <message>
         <source>Tutorial: learn how to sync with Nimbulo Pelora.</source>
-        <translation>Tutorial: learn how to sync with Nimbulo Pelora.</translation>
+        <translation>Tutorial: So synchronisieren Sie mit Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>The server ID &quot;%1&quot; does not exist.</source>
-        <translation>The server ID &quot;%1&quot; does not exist.</translation>
+        <translation>Die Server-ID „%1“ existiert nicht.</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora when I sign in</source>
-        <translation>Start Nimbulo Pelora when I sign in</translation>
+        <translation>Nimbulo Pelora bei meiner Anmeldung starten</translation>
     </message>
     <message>
         <source>Choose a folder on the server and a folder on this computer.</source>
-        <translation>Choose a folder on the server and a folder on this computer.</translation>
+        <translation>Wählen Sie einen Ordner auf dem Server und einen Ordner auf diesem Computer.</translation>
     </message>
     <message>
         <source>This sync task belongs to a different server.</source>
-        <translation>This sync task belongs to a different server.</translation>
+        <translation>Diese Synchronisierungsaufgabe gehört zu einem anderen Server.</translation>
     </message>
     <message>
         <source>The server uses a protocol that this version of Nimbulo Pelora does not support.</source>
-        <translation>The server uses a protocol that this version of Nimbulo Pelora does not support.</translation>
+        <translation>Der Server verwendet ein Protokoll, das von dieser Version von Nimbulo Pelora nicht unterstützt wird.</translation>
     </message>
     <message>
         <source>The disk is full. Nimbulo Pelora has paused syncing.</source>
-        <translation>The disk is full. Nimbulo Pelora has paused syncing.</translation>
+        <translation>Der Datenträger ist voll. Nimbulo Pelora hat die Synchronisierung angehalten.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered an error. Please restart it.</source>
-        <translation>Nimbulo Pelora has encountered an error. Please restart it.</translation>
+        <translation>In Nimbulo Pelora ist ein Fehler aufgetreten. Bitte starten Sie das Programm neu.</translation>
     </message>
     <message>
         <source>The selected folder is not empty. Its files will be uploaded to the server.</source>
-        <translation>The selected folder is not empty. Its files will be uploaded to the server.</translation>
+        <translation>Der ausgewählte Ordner ist nicht leer. Seine Dateien werden auf den Server hochgeladen.</translation>
     </message>
     <message>
         <source>Download changes from the server only</source>
-        <translation>Download changes from the server only</translation>
+        <translation>Nur Änderungen vom Server herunterladen</translation>
     </message>
     <message>
         <source>Your files are now syncing with the folder &quot;%1&quot; on the server.</source>
-        <translation>Your files are now syncing with the folder &quot;%1&quot; on the server.</translation>
+        <translation>Ihre Dateien werden jetzt mit dem Ordner „%1“ auf dem Server synchronisiert.</translation>
     </message>
     <message>
         <source>Varnex Pelora %1 is already installed.\nDo you want to reinstall it?</source>
-        <translation>Varnex Pelora %1 is already installed.\nDo you want to reinstall it?</translation>
+        <translation>Varnex Pelora %1 ist bereits installiert.\nMöchten Sie es erneut installieren?</translation>
     </message>
     <message>
         <source>Not enough free space to sync &quot;%1&quot;. Free up some space and try again.</source>
-        <translation>Not enough free space to sync &quot;%1&quot;. Free up some space and try again.</translation>
+        <translation>Nicht genügend freier Speicherplatz, um „%1“ zu synchronisieren. Geben Sie Speicherplatz frei und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Keep the files on this computer in sync with your server.</source>
-        <translation>Keep the files on this computer in sync with your server.</translation>
+        <translation>Halten Sie die Dateien auf diesem Computer mit Ihrem Server synchron.</translation>
     </message>
     <message>
         <source>Create a &quot;Varnex Pelora&quot; folder in the selected location</source>
-        <translation>Create a &quot;Varnex Pelora&quot; folder in the selected location</translation>
+        <translation>Ordner „Varnex Pelora“ am ausgewählten Speicherort erstellen</translation>
     </message>
     <message>
         <source>A newer version of Varnex Pelora (%1) is already installed.\nSetup will now exit.</source>
-        <translation>A newer version of Varnex Pelora (%1) is already installed.\nSetup will now exit.</translation>
+        <translation>Eine neuere Version von Varnex Pelora (%1) ist bereits installiert.\nDas Setup wird jetzt beendet.</translation>
     </message>
     <message>
         <source>Sync a folder of your choice on the server.</source>
-        <translation>Sync a folder of your choice on the server.</translation>
+        <translation>Synchronisieren Sie einen beliebigen Ordner auf dem Server.</translation>
     </message>
     <message>
         <source>Automatic setup failed. Please set up Nimbulo Pelora manually.</source>
-        <translation>Automatic setup failed. Please set up Nimbulo Pelora manually.</translation>
+        <translation>Die automatische Einrichtung ist fehlgeschlagen. Bitte richten Sie Nimbulo Pelora manuell ein.</translation>
     </message>
     <message>
         <source>Finishing automatic setup...</source>
-        <translation>Finishing automatic setup...</translation>
+        <translation>Automatische Einrichtung wird abgeschlossen ...</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation>Share</translation>
+        <translation>Freigeben</translation>
     </message>
     <message>
         <source>No data available.</source>
-        <translation>No data available.</translation>
+        <translation>Keine Daten verfügbar.</translation>
     </message>
     <message>
         <source>No shared folders are available.</source>
-        <translation>No shared folders are available.</translation>
+        <translation>Keine freigegebenen Ordner verfügbar.</translation>
     </message>
     <message>
         <source>The file or folder does not exist.</source>
-        <translation>The file or folder does not exist.</translation>
+        <translation>Die Datei oder der Ordner existiert nicht.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been configured by your administrator.</source>
-        <translation>Nimbulo Pelora has been configured by your administrator.</translation>
+        <translation>Nimbulo Pelora wurde von Ihrem Administrator konfiguriert.</translation>
     </message>
     <message>
         <source>Internal users</source>
-        <translation>Internal users</translation>
+        <translation>Interne Benutzer</translation>
     </message>
     <message>
         <source>Users of the server can view the file.</source>
-        <translation>Users of the server can view the file.</translation>
+        <translation>Benutzer des Servers können die Datei anzeigen.</translation>
     </message>
     <message>
         <source>Users of the server can view and edit the file.</source>
-        <translation>Users of the server can view and edit the file.</translation>
+        <translation>Benutzer des Servers können die Datei anzeigen und bearbeiten.</translation>
     </message>
     <message>
         <source>Specific people</source>
-        <translation>Specific people</translation>
+        <translation>Bestimmte Personen</translation>
     </message>
     <message>
         <source>Only people you invite can access the file.</source>
-        <translation>Only people you invite can access the file.</translation>
+        <translation>Nur von Ihnen eingeladene Personen können auf die Datei zugreifen.</translation>
     </message>
     <message>
         <source>Anyone with the link</source>
-        <translation>Anyone with the link</translation>
+        <translation>Jeder mit dem Link</translation>
     </message>
     <message>
         <source>Anyone with the link can view the file.</source>
-        <translation>Anyone with the link can view the file.</translation>
+        <translation>Jeder mit dem Link kann die Datei anzeigen.</translation>
     </message>
     <message>
         <source>Anyone with the link can view and edit the file.</source>
-        <translation>Anyone with the link can view and edit the file.</translation>
+        <translation>Jeder mit dem Link kann die Datei anzeigen und bearbeiten.</translation>
     </message>
     <message>
         <source>Can view</source>
-        <translation>Can view</translation>
+        <translation>Kann anzeigen</translation>
     </message>
     <message>
         <source>Can edit</source>
-        <translation>Can edit</translation>
+        <translation>Kann bearbeiten</translation>
     </message>
     <message>
         <source>Invite</source>
-        <translation>Invite</translation>
+        <translation>Einladen</translation>
     </message>
     <message>
         <source>Link</source>
@@ -2185,215 +2185,215 @@
     </message>
     <message>
         <source>Link permission:</source>
-        <translation>Link permission:</translation>
+        <translation>Linkberechtigung:</translation>
     </message>
     <message>
         <source>Users and groups</source>
-        <translation>Users and groups</translation>
+        <translation>Benutzer und Gruppen</translation>
     </message>
     <message>
         <source>Use a black-and-white icon in the menu bar</source>
-        <translation>Use a black-and-white icon in the menu bar</translation>
+        <translation>Schwarz-weißes Symbol in der Menüleiste verwenden</translation>
     </message>
     <message>
         <source>Show the sync folder in the sidebar of file windows</source>
-        <translation>Show the sync folder in the sidebar of file windows</translation>
+        <translation>Synchronisierungsordner in der Seitenleiste von Dateifenstern anzeigen</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation>Display</translation>
+        <translation>Anzeige</translation>
     </message>
     <message>
         <source>Unable to connect to the server</source>
-        <translation>Unable to connect to the server</translation>
+        <translation>Verbindung zum Server nicht möglich</translation>
     </message>
     <message>
         <source>Notifications</source>
-        <translation>Notifications</translation>
+        <translation>Benachrichtigungen</translation>
     </message>
     <message>
         <source>%1 commented on %2</source>
-        <translation>%1 commented on %2</translation>
+        <translation>%1 hat %2 kommentiert</translation>
     </message>
     <message>
         <source>%1 mentioned you in %2</source>
-        <translation>%1 mentioned you in %2</translation>
+        <translation>%1 hat Sie in %2 erwähnt</translation>
     </message>
     <message>
         <source>%1 requested access to %2</source>
-        <translation>%1 requested access to %2</translation>
+        <translation>%1 hat Zugriff auf %2 angefordert</translation>
     </message>
     <message>
         <source>%1 shared %2 with you</source>
-        <translation>%1 shared %2 with you</translation>
+        <translation>%1 hat %2 für Sie freigegeben</translation>
     </message>
     <message>
         <source>Open in Web Portal</source>
-        <translation>Open in Web Portal</translation>
+        <translation>Im Webportal öffnen</translation>
     </message>
     <message>
         <source>Sync</source>
-        <translation>Sync</translation>
+        <translation>Synchronisierung</translation>
     </message>
     <message>
         <source>Shared</source>
-        <translation>Shared</translation>
+        <translation>Freigegeben</translation>
     </message>
     <message>
         <source>Set Up</source>
-        <translation>Set Up</translation>
+        <translation>Einrichten</translation>
     </message>
     <message>
         <source>%1 is requesting access to this file.</source>
-        <translation>%1 is requesting access to this file.</translation>
+        <translation>%1 fordert Zugriff auf diese Datei an.</translation>
     </message>
     <message>
         <source>Comments</source>
-        <translation>Comments</translation>
+        <translation>Kommentare</translation>
     </message>
     <message>
         <source>Mentions</source>
-        <translation>Mentions</translation>
+        <translation>Erwähnungen</translation>
     </message>
     <message>
         <source>Sync the folders shared with you as well?</source>
-        <translation>Sync the folders shared with you as well?</translation>
+        <translation>Auch die für Sie freigegebenen Ordner synchronisieren?</translation>
     </message>
     <message>
         <source>One-way upload</source>
-        <translation>One-way upload</translation>
+        <translation>Nur hochladen (unidirektional)</translation>
     </message>
     <message>
         <source>Do not remove files on the server when they are removed locally</source>
-        <translation>Do not remove files on the server when they are removed locally</translation>
+        <translation>Dateien auf dem Server nicht entfernen, wenn sie lokal entfernt werden</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has been downloaded.</source>
-        <translation>&quot;%1&quot; has been downloaded.</translation>
+        <translation>„%1“ wurde heruntergeladen.</translation>
     </message>
     <message>
         <source>Your files are synced on all devices.</source>
-        <translation>Your files are synced on all devices.</translation>
+        <translation>Ihre Dateien sind auf allen Geräten synchronisiert.</translation>
     </message>
     <message>
         <source>You can also access your files from the web portal.</source>
-        <translation>You can also access your files from the web portal.</translation>
+        <translation>Sie können auch über das Webportal auf Ihre Dateien zugreifen.</translation>
     </message>
     <message>
         <source>Your sync task is ready.</source>
-        <translation>Your sync task is ready.</translation>
+        <translation>Ihre Synchronisierungsaufgabe ist bereit.</translation>
     </message>
     <message>
         <source>Start Tour</source>
-        <translation>Start Tour</translation>
+        <translation>Tour starten</translation>
     </message>
     <message>
         <source>Files and folders that others share with you can also be synced to this computer.</source>
-        <translation>Files and folders that others share with you can also be synced to this computer.</translation>
+        <translation>Dateien und Ordner, die andere für Sie freigeben, können ebenfalls mit diesem Computer synchronisiert werden.</translation>
     </message>
     <message>
         <source>Maybe later</source>
-        <translation>Maybe later</translation>
+        <translation>Vielleicht später</translation>
     </message>
     <message>
         <source>Sync now</source>
-        <translation>Sync now</translation>
+        <translation>Jetzt synchronisieren</translation>
     </message>
     <message>
         <source>Shared with Me</source>
-        <translation>Shared with Me</translation>
+        <translation>Für mich freigegeben</translation>
     </message>
     <message>
         <source>Create Sync Task</source>
-        <translation>Create Sync Task</translation>
+        <translation>Synchronisierungsaufgabe erstellen</translation>
     </message>
     <message>
         <source>Choose what you want to sync.</source>
-        <translation>Choose what you want to sync.</translation>
+        <translation>Wählen Sie aus, was Sie synchronisieren möchten.</translation>
     </message>
     <message>
         <source>General Sync Task</source>
-        <translation>General Sync Task</translation>
+        <translation>Allgemeine Synchronisierungsaufgabe</translation>
     </message>
     <message>
         <source>Files Shared with Me</source>
-        <translation>Files Shared with Me</translation>
+        <translation>Für mich freigegebene Dateien</translation>
     </message>
     <message>
         <source>Sync the files and folders others have shared with you.</source>
-        <translation>Sync the files and folders others have shared with you.</translation>
+        <translation>Synchronisieren Sie die Dateien und Ordner, die andere für Sie freigegeben haben.</translation>
     </message>
     <message>
         <source>Choose a folder on the NAS and a folder on this computer.</source>
-        <translation>Choose a folder on the NAS and a folder on this computer.</translation>
+        <translation>Wählen Sie einen Ordner auf dem NAS und einen Ordner auf diesem Computer.</translation>
     </message>
     <message>
         <source>This sync task belongs to a different NAS.</source>
-        <translation>This sync task belongs to a different NAS.</translation>
+        <translation>Diese Synchronisierungsaufgabe gehört zu einem anderen NAS.</translation>
     </message>
     <message>
         <source>The NAS uses a protocol that this version of Nimbulo Pelora does not support.</source>
-        <translation>The NAS uses a protocol that this version of Nimbulo Pelora does not support.</translation>
+        <translation>Das NAS verwendet ein Protokoll, das von dieser Version von Nimbulo Pelora nicht unterstützt wird.</translation>
     </message>
     <message>
         <source>The disk is full. Syncing has been paused.</source>
-        <translation>The disk is full. Syncing has been paused.</translation>
+        <translation>Der Datenträger ist voll. Die Synchronisierung wurde angehalten.</translation>
     </message>
     <message>
         <source>Download changes from the NAS only</source>
-        <translation>Download changes from the NAS only</translation>
+        <translation>Nur Änderungen vom NAS herunterladen</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be updated. Please try again later.</source>
-        <translation>Nimbulo Pelora could not be updated. Please try again later.</translation>
+        <translation>Nimbulo Pelora konnte nicht aktualisiert werden. Bitte versuchen Sie es später erneut.</translation>
     </message>
     <message>
         <source>You are already connected to this NAS.</source>
-        <translation>You are already connected to this NAS.</translation>
+        <translation>Sie sind bereits mit diesem NAS verbunden.</translation>
     </message>
     <message>
         <source>Changes on network drives may be detected with a delay.</source>
-        <translation>Changes on network drives may be detected with a delay.</translation>
+        <translation>Änderungen auf Netzlaufwerken werden möglicherweise verzögert erkannt.</translation>
     </message>
     <message>
         <source>The SSL certificate of %1 has changed.</source>
-        <translation>The SSL certificate of %1 has changed.</translation>
+        <translation>Das SSL-Zertifikat von %1 hat sich geändert.</translation>
     </message>
     <message>
         <source>A secure connection to the server cannot be established.</source>
-        <translation>A secure connection to the server cannot be established.</translation>
+        <translation>Es kann keine sichere Verbindung zum Server hergestellt werden.</translation>
     </message>
     <message>
         <source>Welcome!</source>
-        <translation>Welcome!</translation>
+        <translation>Willkommen!</translation>
     </message>
     <message>
         <source>Files in your home folder on the NAS are now in %1.</source>
-        <translation>Files in your home folder on the NAS are now in %1.</translation>
+        <translation>Die Dateien in Ihrem Home-Ordner auf dem NAS befinden sich jetzt in %1.</translation>
     </message>
     <message>
         <source>Files in your home folder on the server are now in %1.</source>
-        <translation>Files in your home folder on the server are now in %1.</translation>
+        <translation>Die Dateien in Ihrem Home-Ordner auf dem Server befinden sich jetzt in %1.</translation>
     </message>
     <message>
         <source>The disk is full</source>
-        <translation>The disk is full</translation>
+        <translation>Der Datenträger ist voll</translation>
     </message>
     <message>
         <source>The server&apos;s sync service is outdated</source>
-        <translation>The server&apos;s sync service is outdated</translation>
+        <translation>Der Synchronisierungsdienst des Servers ist veraltet</translation>
     </message>
     <message>
         <source>The shared folder no longer exists.</source>
-        <translation>The shared folder no longer exists.</translation>
+        <translation>Der freigegebene Ordner existiert nicht mehr.</translation>
     </message>
     <message>
         <source>Click to update to Nimbulo Pelora %1</source>
-        <translation>Click to update to Nimbulo Pelora %1</translation>
+        <translation>Klicken Sie, um auf Nimbulo Pelora %1 zu aktualisieren</translation>
     </message>
     <message>
         <source>This version of Nimbulo Pelora is too old to connect to the server. Please update it.</source>
-        <translation>This version of Nimbulo Pelora is too old to connect to the server. Please update it.</translation>
+        <translation>Diese Version von Nimbulo Pelora ist zu alt, um eine Verbindung zum Server herzustellen. Bitte aktualisieren Sie sie.</translation>
     </message>
 </context>
 </TS>

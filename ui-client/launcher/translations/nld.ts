@@ -5,99 +5,99 @@
     <name>global</name>
     <message>
         <source>Edit</source>
-        <translation>Edit</translation>
+        <translation>Bewerken</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <translation>Unlink</translation>
+        <translation>Ontkoppelen</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation>Add</translation>
+        <translation>Toevoegen</translation>
     </message>
     <message>
         <source>Choose Another Folder</source>
-        <translation>Choose Another Folder</translation>
+        <translation>Andere map kiezen</translation>
     </message>
     <message>
         <source>Merge</source>
-        <translation>Merge</translation>
+        <translation>Samenvoegen</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation>Error</translation>
+        <translation>Fout</translation>
     </message>
     <message>
         <source>A conflict occurred while syncing this file.</source>
-        <translation>A conflict occurred while syncing this file.</translation>
+        <translation>Er is een conflict opgetreden bij het synchroniseren van dit bestand.</translation>
     </message>
     <message>
         <source>Invalid parameter.</source>
-        <translation>Invalid parameter.</translation>
+        <translation>Ongeldige parameter.</translation>
     </message>
     <message>
         <source>A network error occurred. Please check your network connection and try again.</source>
-        <translation>A network error occurred. Please check your network connection and try again.</translation>
+        <translation>Er is een netwerkfout opgetreden. Controleer uw netwerkverbinding en probeer het opnieuw.</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>Finish</translation>
+        <translation>Voltooien</translation>
     </message>
     <message>
         <source>Local Storage</source>
-        <translation>Local Storage</translation>
+        <translation>Lokale opslag</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation>Reconnect</translation>
+        <translation>Opnieuw verbinden</translation>
     </message>
     <message>
         <source>About</source>
-        <translation>About</translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Testing connection...</source>
-        <translation>Testing connection...</translation>
+        <translation>Verbinding testen...</translation>
     </message>
     <message>
         <source>The selected folder is not empty. Files in it will be merged with the files on the server.</source>
-        <translation>The selected folder is not empty. Files in it will be merged with the files on the server.</translation>
+        <translation>De geselecteerde map is niet leeg. De bestanden erin worden samengevoegd met de bestanden op de server.</translation>
     </message>
     <message>
         <source>Checking your account...</source>
-        <translation>Checking your account...</translation>
+        <translation>Uw account controleren...</translation>
     </message>
     <message>
         <source>Connected successfully.</source>
-        <translation>Connected successfully.</translation>
+        <translation>Verbinding geslaagd.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; already exists. Do you want to merge its contents?</source>
-        <translation>The folder &quot;%1&quot; already exists. Do you want to merge its contents?</translation>
+        <translation>De map “%1” bestaat al. Wilt u de inhoud samenvoegen?</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora automatically when I log in</source>
-        <translation>Start Nimbulo Pelora automatically when I log in</translation>
+        <translation>Nimbulo Pelora automatisch starten wanneer ik me aanmeld</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Settings</translation>
+        <translation>Instellingen</translation>
     </message>
     <message>
         <source>Incorrect username or password.</source>
-        <translation>Incorrect username or password.</translation>
+        <translation>Onjuiste gebruikersnaam of onjuist wachtwoord.</translation>
     </message>
     <message>
         <source>Change Sync Folder</source>
-        <translation>Change Sync Folder</translation>
+        <translation>Synchronisatiemap wijzigen</translation>
     </message>
     <message>
         <source>Folder Not Empty</source>
-        <translation>Folder Not Empty</translation>
+        <translation>Map niet leeg</translation>
     </message>
     <message>
         <source>Folder Path</source>
-        <translation>Folder Path</translation>
+        <translation>Mappad</translation>
     </message>
     <message>
         <source>ID</source>
@@ -105,35 +105,35 @@
     </message>
     <message>
         <source>Name</source>
-        <translation>Name</translation>
+        <translation>Naam</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation>Value</translation>
+        <translation>Waarde</translation>
     </message>
     <message>
         <source>Get Started with Nimbulo Pelora</source>
-        <translation>Get Started with Nimbulo Pelora</translation>
+        <translation>Aan de slag met Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Afsluiten</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation>Pause</translation>
+        <translation>Onderbreken</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation>Resume</translation>
+        <translation>Hervatten</translation>
     </message>
     <message>
         <source>Recently Updated Files</source>
-        <translation>Recently Updated Files</translation>
+        <translation>Recent bijgewerkte bestanden</translation>
     </message>
     <message>
         <source>Up to date</source>
-        <translation>Up to date</translation>
+        <translation>Bijgewerkt</translation>
     </message>
     <message>
         <source>Help</source>
@@ -145,59 +145,59 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation>Delete</translation>
+        <translation>Verwijderen</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation>Back</translation>
+        <translation>Vorige</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation>Next</translation>
+        <translation>Volgende</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Cancel</translation>
+        <translation>Annuleren</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation>Version</translation>
+        <translation>Versie</translation>
     </message>
     <message>
         <source>Open Nimbulo Pelora</source>
-        <translation>Open Nimbulo Pelora</translation>
+        <translation>Nimbulo Pelora openen</translation>
     </message>
     <message>
         <source>Detecting changes...</source>
-        <translation>Detecting changes...</translation>
+        <translation>Wijzigingen detecteren...</translation>
     </message>
     <message>
         <source>Disconnected from the server.</source>
-        <translation>Disconnected from the server.</translation>
+        <translation>Verbinding met de server verbroken.</translation>
     </message>
     <message>
         <source>Enable Sync</source>
-        <translation>Enable Sync</translation>
+        <translation>Synchronisatie inschakelen</translation>
     </message>
     <message>
         <source>Authentication failed</source>
-        <translation>Authentication failed</translation>
+        <translation>Verificatie mislukt</translation>
     </message>
     <message>
         <source>Direct connection</source>
-        <translation>Direct connection</translation>
+        <translation>Directe verbinding</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation>Local network</translation>
+        <translation>Lokaal netwerk</translation>
     </message>
     <message>
         <source>Checking connection...</source>
-        <translation>Checking connection...</translation>
+        <translation>Verbinding controleren...</translation>
     </message>
     <message>
         <source>Relay connection</source>
-        <translation>Relay connection</translation>
+        <translation>Relayverbinding</translation>
     </message>
     <message>
         <source>Internet</source>
@@ -205,115 +205,115 @@
     </message>
     <message>
         <source>Unable to connect automatically because of a system error.</source>
-        <translation>Unable to connect automatically because of a system error.</translation>
+        <translation>Kan niet automatisch verbinden vanwege een systeemfout.</translation>
     </message>
     <message>
         <source>Sharing links are disabled on the server. Please contact your administrator.</source>
-        <translation>Sharing links are disabled on the server. Please contact your administrator.</translation>
+        <translation>Deellinks zijn uitgeschakeld op de server. Neem contact op met uw beheerder.</translation>
     </message>
     <message>
         <source>%1 files updated</source>
-        <translation>%1 files updated</translation>
+        <translation>%1 bestanden bijgewerkt</translation>
     </message>
     <message>
         <source>You have read-only permission for this folder. Local changes will not be uploaded.</source>
-        <translation>You have read-only permission for this folder. Local changes will not be uploaded.</translation>
+        <translation>U hebt alleen leesrechten voor deze map. Lokale wijzigingen worden niet geüpload.</translation>
     </message>
     <message>
         <source>Your storage quota on the server is full. Free up some space to continue syncing.</source>
-        <translation>Your storage quota on the server is full. Free up some space to continue syncing.</translation>
+        <translation>Uw opslagquotum op de server is vol. Maak ruimte vrij om verder te synchroniseren.</translation>
     </message>
     <message>
         <source>Connection Type</source>
-        <translation>Connection Type</translation>
+        <translation>Verbindingstype</translation>
     </message>
     <message>
         <source>Connection Information</source>
-        <translation>Connection Information</translation>
+        <translation>Verbindingsgegevens</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation>Change</translation>
+        <translation>Wijzigen</translation>
     </message>
     <message>
         <source>Please select a folder.</source>
-        <translation>Please select a folder.</translation>
+        <translation>Selecteer een map.</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation>Information</translation>
+        <translation>Informatie</translation>
     </message>
     <message>
         <source>Unable to connect automatically. Please check the server address and try again.</source>
-        <translation>Unable to connect automatically. Please check the server address and try again.</translation>
+        <translation>Kan niet automatisch verbinden. Controleer het serveradres en probeer het opnieuw.</translation>
     </message>
     <message>
         <source>Shared Folders</source>
-        <translation>Shared Folders</translation>
+        <translation>Gedeelde mappen</translation>
     </message>
     <message>
         <source>Your changes have not been saved. Do you want to discard them?</source>
-        <translation>Your changes have not been saved. Do you want to discard them?</translation>
+        <translation>Uw wijzigingen zijn niet opgeslagen. Wilt u ze negeren?</translation>
     </message>
     <message>
         <source>Quota full</source>
-        <translation>Quota full</translation>
+        <translation>Quotum vol</translation>
     </message>
     <message>
         <source>Local Folder</source>
-        <translation>Local Folder</translation>
+        <translation>Lokale map</translation>
     </message>
     <message>
         <source>Unable to enable syncing for this shared folder.</source>
-        <translation>Unable to enable syncing for this shared folder.</translation>
+        <translation>Kan synchronisatie voor deze gedeelde map niet inschakelen.</translation>
     </message>
     <message>
         <source>This folder conflicts with another sync task.</source>
-        <translation>This folder conflicts with another sync task.</translation>
+        <translation>Deze map conflicteert met een andere synchronisatietaak.</translation>
     </message>
     <message>
         <source>You have reached the maximum number of synced shared folders.</source>
-        <translation>You have reached the maximum number of synced shared folders.</translation>
+        <translation>U hebt het maximale aantal gesynchroniseerde gedeelde mappen bereikt.</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation>Applying settings...</translation>
+        <translation>Instellingen toepassen...</translation>
     </message>
     <message>
         <source>Please enter a port number between 1 and 65535.</source>
-        <translation>Please enter a port number between 1 and 65535.</translation>
+        <translation>Voer een poortnummer tussen 1 en 65535 in.</translation>
     </message>
     <message>
         <source>Shared Folder</source>
-        <translation>Shared Folder</translation>
+        <translation>Gedeelde map</translation>
     </message>
     <message>
         <source>Please enter the proxy server address and port.</source>
-        <translation>Please enter the proxy server address and port.</translation>
+        <translation>Voer het adres en de poort van de proxyserver in.</translation>
     </message>
     <message>
         <source>Please enter your username.</source>
-        <translation>Please enter your username.</translation>
+        <translation>Voer uw gebruikersnaam in.</translation>
     </message>
     <message>
         <source>Manual proxy configuration</source>
-        <translation>Manual proxy configuration</translation>
+        <translation>Handmatige proxyconfiguratie</translation>
     </message>
     <message>
         <source>No proxy</source>
-        <translation>No proxy</translation>
+        <translation>Geen proxy</translation>
     </message>
     <message>
         <source>Use system proxy settings</source>
-        <translation>Use system proxy settings</translation>
+        <translation>Proxyinstellingen van het systeem gebruiken</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation>Password</translation>
+        <translation>Wachtwoord</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation>Port</translation>
+        <translation>Poort</translation>
     </message>
     <message>
         <source>Proxy</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>No changes to apply.</source>
-        <translation>No changes to apply.</translation>
+        <translation>Geen wijzigingen om toe te passen.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -329,895 +329,895 @@
     </message>
     <message>
         <source>Username</source>
-        <translation>Username</translation>
+        <translation>Gebruikersnaam</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation>Apply</translation>
+        <translation>Toepassen</translation>
     </message>
     <message>
         <source>Proxy server requires authentication</source>
-        <translation>Proxy server requires authentication</translation>
+        <translation>Proxyserver vereist verificatie</translation>
     </message>
     <message>
         <source>Updating files...</source>
-        <translation>Updating files...</translation>
+        <translation>Bestanden bijwerken...</translation>
     </message>
     <message>
         <source>Conflicting changes are kept in both copies: the local copy is renamed with the computer name.</source>
-        <translation>Conflicting changes are kept in both copies: the local copy is renamed with the computer name.</translation>
+        <translation>Conflicterende wijzigingen worden in beide kopieën bewaard: de lokale kopie krijgt de computernaam in de bestandsnaam.</translation>
     </message>
     <message>
         <source>Server Address</source>
-        <translation>Server Address</translation>
+        <translation>Serveradres</translation>
     </message>
     <message>
         <source>Enter the server&apos;s IP address, host name or relay ID.</source>
-        <translation>Enter the server&apos;s IP address, host name or relay ID.</translation>
+        <translation>Voer het IP-adres, de hostnaam of de relay-ID van de server in.</translation>
     </message>
     <message>
         <source>The server&apos;s sync service is outdated. Please ask your administrator to update it.</source>
-        <translation>The server&apos;s sync service is outdated. Please ask your administrator to update it.</translation>
+        <translation>De synchronisatieservice van de server is verouderd. Vraag uw beheerder deze bij te werken.</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
-        <translation>Show desktop notifications</translation>
+        <translation>Bureaubladmeldingen weergeven</translation>
     </message>
     <message>
         <source>Show sync status on file icons</source>
-        <translation>Show sync status on file icons</translation>
+        <translation>Synchronisatiestatus op bestandspictogrammen weergeven</translation>
     </message>
     <message>
         <source>Encrypt the connection with SSL</source>
-        <translation>Encrypt the connection with SSL</translation>
+        <translation>Verbinding versleutelen met SSL</translation>
     </message>
     <message>
         <source>General</source>
-        <translation>General</translation>
+        <translation>Algemeen</translation>
     </message>
     <message>
         <source>Use a monochrome tray icon</source>
-        <translation>Use a monochrome tray icon</translation>
+        <translation>Monochroom systeemvakpictogram gebruiken</translation>
     </message>
     <message>
         <source>Sync problem</source>
-        <translation>Sync problem</translation>
+        <translation>Synchronisatieprobleem</translation>
     </message>
     <message>
         <source>%1 has shared &quot;%2&quot; with you.</source>
-        <translation>%1 has shared &quot;%2&quot; with you.</translation>
+        <translation>%1 heeft “%2” met u gedeeld.</translation>
     </message>
     <message>
         <source>New shared folder</source>
-        <translation>New shared folder</translation>
+        <translation>Nieuwe gedeelde map</translation>
     </message>
     <message>
         <source>Checking files...</source>
-        <translation>Checking files...</translation>
+        <translation>Bestanden controleren...</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation>Continue</translation>
+        <translation>Doorgaan</translation>
     </message>
     <message>
         <source>Selective Sync</source>
-        <translation>Selective Sync</translation>
+        <translation>Selectieve synchronisatie</translation>
     </message>
     <message>
         <source>Files and folders matching these rules will not be synced.</source>
-        <translation>Files and folders matching these rules will not be synced.</translation>
+        <translation>Bestanden en mappen die aan deze regels voldoen, worden niet gesynchroniseerd.</translation>
     </message>
     <message>
         <source>File extensions:</source>
-        <translation>File extensions:</translation>
+        <translation>Bestandsextensies:</translation>
     </message>
     <message>
         <source>Updating Nimbulo Pelora...</source>
-        <translation>Updating Nimbulo Pelora...</translation>
+        <translation>Nimbulo Pelora bijwerken...</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation>Update</translation>
+        <translation>Bijwerken</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%1 of %2</translation>
+        <translation>%1 van %2</translation>
     </message>
     <message>
         <source>Are you sure you want to stop syncing &quot;%1&quot;?</source>
-        <translation>Are you sure you want to stop syncing &quot;%1&quot;?</translation>
+        <translation>Weet u zeker dat u wilt stoppen met het synchroniseren van “%1”?</translation>
     </message>
     <message>
         <source>Sharing disabled</source>
-        <translation>Sharing disabled</translation>
+        <translation>Delen uitgeschakeld</translation>
     </message>
     <message>
         <source>Mount point not supported</source>
-        <translation>Mount point not supported</translation>
+        <translation>Koppelpunt niet ondersteund</translation>
     </message>
     <message>
         <source>Unable to remove this sync task.</source>
-        <translation>Unable to remove this sync task.</translation>
+        <translation>Kan deze synchronisatietaak niet verwijderen.</translation>
     </message>
     <message>
         <source>The new language will be applied after Nimbulo Pelora restarts.</source>
-        <translation>The new language will be applied after Nimbulo Pelora restarts.</translation>
+        <translation>De nieuwe taal wordt toegepast nadat Nimbulo Pelora opnieuw is gestart.</translation>
     </message>
     <message>
         <source>The local disk is full. Free up some space to continue syncing.</source>
-        <translation>The local disk is full. Free up some space to continue syncing.</translation>
+        <translation>De lokale schijf is vol. Maak ruimte vrij om verder te synchroniseren.</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink from this server? Your local files will be kept.</source>
-        <translation>Are you sure you want to unlink from this server? Your local files will be kept.</translation>
+        <translation>Weet u zeker dat u de koppeling met deze server wilt verbreken? Uw lokale bestanden blijven behouden.</translation>
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Preparing...</translation>
+        <translation>Voorbereiden...</translation>
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Uploading...</translation>
+        <translation>Uploaden...</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation>System default</translation>
+        <translation>Systeemstandaard</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation>Language:</translation>
+        <translation>Taal:</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Loading...</translation>
+        <translation>Laden...</translation>
     </message>
     <message>
         <source>Syncing %1 files</source>
-        <translation>Syncing %1 files</translation>
+        <translation>%1 bestanden synchroniseren</translation>
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Downloading...</translation>
+        <translation>Downloaden...</translation>
     </message>
     <message>
         <source>Advanced Settings</source>
-        <translation>Advanced Settings</translation>
+        <translation>Geavanceerde instellingen</translation>
     </message>
     <message>
         <source>File names:</source>
-        <translation>File names:</translation>
+        <translation>Bestandsnamen:</translation>
     </message>
     <message>
         <source>Blocked Files</source>
-        <translation>Blocked Files</translation>
+        <translation>Geblokkeerde bestanden</translation>
     </message>
     <message>
         <source>The local sync database is damaged. Please relink this sync task.</source>
-        <translation>The local sync database is damaged. Please relink this sync task.</translation>
+        <translation>De lokale synchronisatiedatabase is beschadigd. Koppel deze synchronisatietaak opnieuw.</translation>
     </message>
     <message>
         <source>Maximum file size:</source>
-        <translation>Maximum file size:</translation>
+        <translation>Maximale bestandsgrootte:</translation>
     </message>
     <message>
         <source>Filter files</source>
-        <translation>Filter files</translation>
+        <translation>Bestanden filteren</translation>
     </message>
     <message>
         <source>Folder Name</source>
-        <translation>Folder Name</translation>
+        <translation>Mapnaam</translation>
     </message>
     <message>
         <source>Excluded file types:</source>
-        <translation>Excluded file types:</translation>
+        <translation>Uitgesloten bestandstypen:</translation>
     </message>
     <message>
         <source>Folders you unselect will be removed from this computer but kept on the server.</source>
-        <translation>Folders you unselect will be removed from this computer but kept on the server.</translation>
+        <translation>Mappen die u deselecteert, worden van deze computer verwijderd maar blijven op de server bewaard.</translation>
     </message>
     <message>
         <source>Merge mode</source>
-        <translation>Merge mode</translation>
+        <translation>Samenvoegmodus</translation>
     </message>
     <message>
         <source>Sync Mode</source>
-        <translation>Sync Mode</translation>
+        <translation>Synchronisatiemodus</translation>
     </message>
     <message>
         <source>Edit Connection</source>
-        <translation>Edit Connection</translation>
+        <translation>Verbinding bewerken</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation>Paused</translation>
+        <translation>Onderbroken</translation>
     </message>
     <message>
         <source>A mount point cannot be used as a sync folder.</source>
-        <translation>A mount point cannot be used as a sync folder.</translation>
+        <translation>Een koppelpunt kan niet als synchronisatiemap worden gebruikt.</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation>Destination</translation>
+        <translation>Bestemming</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation>Time</translation>
+        <translation>Tijd</translation>
     </message>
     <message>
         <source>The download was cancelled.</source>
-        <translation>The download was cancelled.</translation>
+        <translation>Het downloaden is geannuleerd.</translation>
     </message>
     <message>
         <source>Start Now</source>
-        <translation>Start Now</translation>
+        <translation>Nu starten</translation>
     </message>
     <message>
         <source>You do not have permission to perform this operation.</source>
-        <translation>You do not have permission to perform this operation.</translation>
+        <translation>U bent niet gemachtigd om deze bewerking uit te voeren.</translation>
     </message>
     <message>
         <source>Manage</source>
-        <translation>Manage</translation>
+        <translation>Beheren</translation>
     </message>
     <message>
         <source>Your storage quota is full</source>
-        <translation>Your storage quota is full</translation>
+        <translation>Uw opslagquotum is vol</translation>
     </message>
     <message>
         <source>The local disk is full</source>
-        <translation>The local disk is full</translation>
+        <translation>De lokale schijf is vol</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation>Permission denied</translation>
+        <translation>Toegang geweigerd</translation>
     </message>
     <message>
         <source>Version mismatch</source>
-        <translation>Version mismatch</translation>
+        <translation>Versies komen niet overeen</translation>
     </message>
     <message>
         <source>Unable to get your account information from the server.</source>
-        <translation>Unable to get your account information from the server.</translation>
+        <translation>Kan uw accountgegevens niet ophalen van de server.</translation>
     </message>
     <message>
         <source>Sync problem detected</source>
-        <translation>Sync problem detected</translation>
+        <translation>Synchronisatieprobleem gedetecteerd</translation>
     </message>
     <message>
         <source>Computer Name</source>
-        <translation>Computer Name</translation>
+        <translation>Computernaam</translation>
     </message>
     <message>
         <source>The connection is unstable. Retrying...</source>
-        <translation>The connection is unstable. Retrying...</translation>
+        <translation>De verbinding is instabiel. Opnieuw proberen...</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>Downloading %1...</translation>
+        <translation>%1 downloaden...</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation>Connecting...</translation>
+        <translation>Verbinden...</translation>
     </message>
     <message>
         <source>Retrying sync...</source>
-        <translation>Retrying sync...</translation>
+        <translation>Synchronisatie opnieuw proberen...</translation>
     </message>
     <message>
         <source>Security Warning</source>
-        <translation>Security Warning</translation>
+        <translation>Beveiligingswaarschuwing</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation>Enabled</translation>
+        <translation>Ingeschakeld</translation>
     </message>
     <message>
         <source>Download completed.</source>
-        <translation>Download completed.</translation>
+        <translation>Downloaden voltooid.</translation>
     </message>
     <message>
         <source>Continue Anyway</source>
-        <translation>Continue Anyway</translation>
+        <translation>Toch doorgaan</translation>
     </message>
     <message>
         <source>Filter Rules</source>
-        <translation>Filter Rules</translation>
+        <translation>Filterregels</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation>Action</translation>
+        <translation>Actie</translation>
     </message>
     <message>
         <source>File Name</source>
-        <translation>File Name</translation>
+        <translation>Bestandsnaam</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation>Size</translation>
+        <translation>Grootte</translation>
     </message>
     <message>
         <source>No.</source>
-        <translation>No.</translation>
+        <translation>Nr.</translation>
     </message>
     <message>
         <source>Browse Previous Versions</source>
-        <translation>Browse Previous Versions</translation>
+        <translation>Vorige versies bekijken</translation>
     </message>
     <message>
         <source>Disabled</source>
-        <translation>Disabled</translation>
+        <translation>Uitgeschakeld</translation>
     </message>
     <message>
         <source>Stopping sync for &quot;%1&quot; will remove its local copy. Continue?</source>
-        <translation>Stopping sync for &quot;%1&quot; will remove its local copy. Continue?</translation>
+        <translation>Als u stopt met het synchroniseren van “%1”, wordt de lokale kopie verwijderd. Doorgaan?</translation>
     </message>
     <message>
         <source>Secure Connection</source>
-        <translation>Secure Connection</translation>
+        <translation>Beveiligde verbinding</translation>
     </message>
     <message>
         <source>Choose the folder on this computer where your files will be synced.</source>
-        <translation>Choose the folder on this computer where your files will be synced.</translation>
+        <translation>Kies de map op deze computer waarin uw bestanden worden gesynchroniseerd.</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation>and %1 more</translation>
+        <translation>en nog %1</translation>
     </message>
     <message>
         <source>Sharing</source>
-        <translation>Sharing</translation>
+        <translation>Delen</translation>
     </message>
     <message>
         <source>Unable to download the file.</source>
-        <translation>Unable to download the file.</translation>
+        <translation>Kan het bestand niet downloaden.</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation>Overview</translation>
+        <translation>Overzicht</translation>
     </message>
     <message>
         <source>The server has been replaced or reset</source>
-        <translation>The server has been replaced or reset</translation>
+        <translation>De server is vervangen of opnieuw ingesteld</translation>
     </message>
     <message>
         <source>Certificate verification failed</source>
-        <translation>Certificate verification failed</translation>
+        <translation>Certificaatverificatie mislukt</translation>
     </message>
     <message>
         <source>Syncing...</source>
-        <translation>Syncing...</translation>
+        <translation>Synchroniseren...</translation>
     </message>
     <message>
         <source>The server&apos;s SSL certificate could not be verified. The connection may not be secure.</source>
-        <translation>The server&apos;s SSL certificate could not be verified. The connection may not be secure.</translation>
+        <translation>Het SSL-certificaat van de server kan niet worden geverifieerd. De verbinding is mogelijk niet veilig.</translation>
     </message>
     <message>
         <source>Finished</source>
-        <translation>Finished</translation>
+        <translation>Voltooid</translation>
     </message>
     <message>
         <source>This sync task is inactive. Click to resume it.</source>
-        <translation>This sync task is inactive. Click to resume it.</translation>
+        <translation>Deze synchronisatietaak is inactief. Klik om deze te hervatten.</translation>
     </message>
     <message>
         <source>Inactive</source>
-        <translation>Inactive</translation>
+        <translation>Inactief</translation>
     </message>
     <message>
         <source>This file cannot be downloaded right now.</source>
-        <translation>This file cannot be downloaded right now.</translation>
+        <translation>Dit bestand kan op dit moment niet worden gedownload.</translation>
     </message>
     <message>
         <source>Unable to list the previous versions of this file.</source>
-        <translation>Unable to list the previous versions of this file.</translation>
+        <translation>Kan de vorige versies van dit bestand niet weergeven.</translation>
     </message>
     <message>
         <source>Unable to create a sharing link for this file.</source>
-        <translation>Unable to create a sharing link for this file.</translation>
+        <translation>Kan geen deellink voor dit bestand maken.</translation>
     </message>
     <message>
         <source>Standby</source>
-        <translation>Standby</translation>
+        <translation>Stand-by</translation>
     </message>
     <message>
         <source>Double-click the tray icon to open the sync folder</source>
-        <translation>Double-click the tray icon to open the sync folder</translation>
+        <translation>Dubbelklik op het systeemvakpictogram om de synchronisatiemap te openen</translation>
     </message>
     <message>
         <source>Indexing folder...</source>
-        <translation>Indexing folder...</translation>
+        <translation>Map indexeren...</translation>
     </message>
     <message>
         <source>Welcome to the Nimbulo Pelora Setup Wizard</source>
-        <translation>Welcome to the Nimbulo Pelora Setup Wizard</translation>
+        <translation>Welkom bij de installatiewizard van Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be initialized.</source>
-        <translation>Nimbulo Pelora could not be initialized.</translation>
+        <translation>Nimbulo Pelora kan niet worden geïnitialiseerd.</translation>
     </message>
     <message>
         <source>&lt; Back</source>
-        <translation>&lt; Back</translation>
+        <translation>&lt; Vorige</translation>
     </message>
     <message>
         <source>Ready to Install Nimbulo Pelora</source>
-        <translation>Ready to Install Nimbulo Pelora</translation>
+        <translation>Gereed om Nimbulo Pelora te installeren</translation>
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
-        <translation>Some files that need to be updated are currently in use.</translation>
+        <translation>Sommige bestanden die moeten worden bijgewerkt, zijn momenteel in gebruik.</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation>Yes</translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>End-User License Agreement</source>
-        <translation>End-User License Agreement</translation>
+        <translation>Gebruiksrechtovereenkomst</translation>
     </message>
     <message>
         <source>Completed the Nimbulo Pelora Setup Wizard</source>
-        <translation>Completed the Nimbulo Pelora Setup Wizard</translation>
+        <translation>De installatiewizard van Nimbulo Pelora is voltooid</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation>Print</translation>
+        <translation>Afdrukken</translation>
     </message>
     <message>
         <source>Do not close applications. A reboot will be required.</source>
-        <translation>Do not close applications. A reboot will be required.</translation>
+        <translation>Toepassingen niet sluiten. De computer moet opnieuw worden opgestart.</translation>
     </message>
     <message>
         <source>Setup Error</source>
-        <translation>Setup Error</translation>
+        <translation>Installatiefout</translation>
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation>Click the Finish button to exit the Setup Wizard.</translation>
+        <translation>Klik op Voltooien om de installatiewizard af te sluiten.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been installed successfully.</source>
-        <translation>Nimbulo Pelora has been installed successfully.</translation>
+        <translation>Nimbulo Pelora is geïnstalleerd.</translation>
     </message>
     <message>
         <source>Launch Nimbulo Pelora</source>
-        <translation>Launch Nimbulo Pelora</translation>
+        <translation>Nimbulo Pelora starten</translation>
     </message>
     <message>
         <source>Change, repair, or remove installation</source>
-        <translation>Change, repair, or remove installation</translation>
+        <translation>Installatie wijzigen, herstellen of verwijderen</translation>
     </message>
     <message>
         <source>Lets you change the way features are installed.</source>
-        <translation>Lets you change the way features are installed.</translation>
+        <translation>Hiermee wijzigt u de manier waarop onderdelen worden geïnstalleerd.</translation>
     </message>
     <message>
         <source>The sync folder is on a volume that is not mounted.</source>
-        <translation>The sync folder is on a volume that is not mounted.</translation>
+        <translation>De synchronisatiemap staat op een volume dat niet is gekoppeld.</translation>
     </message>
     <message>
         <source>The file version is invalid.</source>
-        <translation>The file version is invalid.</translation>
+        <translation>De bestandsversie is ongeldig.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation>Remove</translation>
+        <translation>Verwijderen</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the Nimbulo Pelora installation?</source>
-        <translation>Are you sure you want to cancel the Nimbulo Pelora installation?</translation>
+        <translation>Weet u zeker dat u de installatie van Nimbulo Pelora wilt annuleren?</translation>
     </message>
     <message>
         <source>Download only</source>
-        <translation>Download only</translation>
+        <translation>Alleen downloaden</translation>
     </message>
     <message>
         <source>You have read-only access to this folder. Changes you make here are not uploaded.</source>
-        <translation>You have read-only access to this folder. Changes you make here are not uploaded.</translation>
+        <translation>U hebt alleen leestoegang tot deze map. Wijzigingen die u hier aanbrengt, worden niet geüpload.</translation>
     </message>
     <message>
         <source>Please read the following license agreement carefully.</source>
-        <translation>Please read the following license agreement carefully.</translation>
+        <translation>Lees de volgende licentieovereenkomst aandachtig door.</translation>
     </message>
     <message>
         <source>Please read the license agreement and accept it to continue.</source>
-        <translation>Please read the license agreement and accept it to continue.</translation>
+        <translation>Lees de licentieovereenkomst en accepteer deze om door te gaan.</translation>
     </message>
     <message>
         <source>Cancel Setup</source>
-        <translation>Cancel Setup</translation>
+        <translation>Installatie annuleren</translation>
     </message>
     <message>
         <source>Nimbulo Pelora keeps the files on this computer in sync with your NAS.</source>
-        <translation>Nimbulo Pelora keeps the files on this computer in sync with your NAS.</translation>
+        <translation>Nimbulo Pelora houdt de bestanden op deze computer gesynchroniseerd met uw NAS.</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation>Ignore</translation>
+        <translation>Negeren</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation>Install</translation>
+        <translation>Installeren</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation>Read-only</translation>
+        <translation>Alleen-lezen</translation>
     </message>
     <message>
         <source>Next &gt;</source>
-        <translation>Next &gt;</translation>
+        <translation>Volgende &gt;</translation>
     </message>
     <message>
         <source>No</source>
-        <translation>No</translation>
+        <translation>Nee</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation>Repair</translation>
+        <translation>Herstellen</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation>Retry</translation>
+        <translation>Opnieuw</translation>
     </message>
     <message>
         <source>Sync Status</source>
-        <translation>Sync Status</translation>
+        <translation>Synchronisatiestatus</translation>
     </message>
     <message>
         <source>The local sync folder &quot;%1&quot; cannot be found. It may have been moved or deleted.</source>
-        <translation>The local sync folder &quot;%1&quot; cannot be found. It may have been moved or deleted.</translation>
+        <translation>De lokale synchronisatiemap “%1” is niet gevonden. Mogelijk is deze verplaatst of verwijderd.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora Setup ended prematurely because of an error. Your system has not been modified.</source>
-        <translation>Nimbulo Pelora Setup ended prematurely because of an error. Your system has not been modified.</translation>
+        <translation>De installatie van Nimbulo Pelora is vanwege een fout voortijdig beëindigd. Uw systeem is niet gewijzigd.</translation>
     </message>
     <message>
         <source>To install this program at a later time, run the Setup Wizard again. Click Finish to exit.</source>
-        <translation>To install this program at a later time, run the Setup Wizard again. Click Finish to exit.</translation>
+        <translation>Als u dit programma later wilt installeren, voert u de installatiewizard opnieuw uit. Klik op Voltooien om af te sluiten.</translation>
     </message>
     <message>
         <source>Setup Ended Prematurely</source>
-        <translation>Setup Ended Prematurely</translation>
+        <translation>Installatie voortijdig beëindigd</translation>
     </message>
     <message>
         <source>Close all applications and try to restart them.</source>
-        <translation>Close all applications and try to restart them.</translation>
+        <translation>Alle toepassingen sluiten en proberen ze opnieuw te starten.</translation>
     </message>
     <message>
         <source>Close the applications that use files Setup needs to update.</source>
-        <translation>Close the applications that use files Setup needs to update.</translation>
+        <translation>Sluit de toepassingen die bestanden gebruiken die het installatieprogramma moet bijwerken.</translation>
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</source>
-        <translation>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</translation>
+        <translation>De volgende toepassingen gebruiken bestanden die het installatieprogramma moet bijwerken. Sluit deze toepassingen en klik op Opnieuw om door te gaan.</translation>
     </message>
     <message>
         <source>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts and registry entries.</source>
-        <translation>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts and registry entries.</translation>
+        <translation>Herstelt fouten in de meest recente installatie door ontbrekende en beschadigde bestanden, snelkoppelingen en registervermeldingen te repareren.</translation>
     </message>
     <message>
         <source>The following applications are using files that need to be updated.\nClose them, or let Setup close them and attempt to restart them.</source>
-        <translation>The following applications are using files that need to be updated.\nClose them, or let Setup close them and attempt to restart them.</translation>
+        <translation>De volgende toepassingen gebruiken bestanden die moeten worden bijgewerkt.\nSluit deze toepassingen of laat het installatieprogramma ze sluiten en opnieuw starten.</translation>
     </message>
     <message>
         <source>Files in Use</source>
-        <translation>Files in Use</translation>
+        <translation>Bestanden in gebruik</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has no independent features to select.</source>
-        <translation>Nimbulo Pelora has no independent features to select.</translation>
+        <translation>Nimbulo Pelora heeft geen afzonderlijke onderdelen om te selecteren.</translation>
     </message>
     <message>
         <source>Change the installed features</source>
-        <translation>Change the installed features</translation>
+        <translation>De geïnstalleerde onderdelen wijzigen</translation>
     </message>
     <message>
         <source>Select the operation you wish to perform.</source>
-        <translation>Select the operation you wish to perform.</translation>
+        <translation>Selecteer de bewerking die u wilt uitvoeren.</translation>
     </message>
     <message>
         <source>Removes Nimbulo Pelora from your computer.</source>
-        <translation>Removes Nimbulo Pelora from your computer.</translation>
+        <translation>Verwijdert Nimbulo Pelora van uw computer.</translation>
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation>Remove the installation</translation>
+        <translation>De installatie verwijderen</translation>
     </message>
     <message>
         <source>Repair the installation</source>
-        <translation>Repair the installation</translation>
+        <translation>De installatie herstellen</translation>
     </message>
     <message>
         <source>Select the operation you wish to perform.\nYour sync settings are kept.</source>
-        <translation>Select the operation you wish to perform.\nYour sync settings are kept.</translation>
+        <translation>Selecteer de bewerking die u wilt uitvoeren.\nUw synchronisatie-instellingen blijven behouden.</translation>
     </message>
     <message>
         <source>The Setup Wizard allows you to change the way Nimbulo Pelora is installed, repair it, or remove it from your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>The Setup Wizard allows you to change the way Nimbulo Pelora is installed, repair it, or remove it from your computer. Click Next to continue or Cancel to exit.</translation>
+        <translation>Met de installatiewizard kunt u de manier wijzigen waarop Nimbulo Pelora is geïnstalleerd, het programma herstellen of het van uw computer verwijderen. Klik op Volgende om door te gaan of op Annuleren om af te sluiten.</translation>
     </message>
     <message>
         <source>Welcome to Nimbulo Pelora Setup</source>
-        <translation>Welcome to Nimbulo Pelora Setup</translation>
+        <translation>Welkom bij de installatie van Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Nimbulo Pelora.</source>
-        <translation>Please wait while the Setup Wizard installs Nimbulo Pelora.</translation>
+        <translation>Een ogenblik geduld. De installatiewizard installeert Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>This may take a few minutes.</source>
-        <translation>This may take a few minutes.</translation>
+        <translation>Dit kan enkele minuten duren.</translation>
     </message>
     <message>
         <source>Installing Nimbulo Pelora...</source>
-        <translation>Installing Nimbulo Pelora...</translation>
+        <translation>Nimbulo Pelora installeren...</translation>
     </message>
     <message>
         <source>Installing Nimbulo Pelora</source>
-        <translation>Installing Nimbulo Pelora</translation>
+        <translation>Nimbulo Pelora installeren</translation>
     </message>
     <message>
         <source>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</translation>
+        <translation>Klik op Installeren om de installatie te starten. Klik op Vorige om uw installatie-instellingen te controleren of te wijzigen. Klik op Annuleren om de wizard af te sluiten.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the installation.</source>
-        <translation>The Setup Wizard is ready to begin the installation.</translation>
+        <translation>De installatiewizard is gereed om met de installatie te beginnen.</translation>
     </message>
     <message>
         <source>Click Install to begin.</source>
-        <translation>Click Install to begin.</translation>
+        <translation>Klik op Installeren om te beginnen.</translation>
     </message>
     <message>
         <source>Click Remove to remove Nimbulo Pelora from your computer. Your synced files are kept.</source>
-        <translation>Click Remove to remove Nimbulo Pelora from your computer. Your synced files are kept.</translation>
+        <translation>Klik op Verwijderen om Nimbulo Pelora van uw computer te verwijderen. Uw gesynchroniseerde bestanden blijven behouden.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to remove Nimbulo Pelora.</source>
-        <translation>The Setup Wizard is ready to remove Nimbulo Pelora.</translation>
+        <translation>De installatiewizard is gereed om Nimbulo Pelora te verwijderen.</translation>
     </message>
     <message>
         <source>Click Remove to begin.</source>
-        <translation>Click Remove to begin.</translation>
+        <translation>Klik op Verwijderen om te beginnen.</translation>
     </message>
     <message>
         <source>Remove Nimbulo Pelora</source>
-        <translation>Remove Nimbulo Pelora</translation>
+        <translation>Nimbulo Pelora verwijderen</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of Nimbulo Pelora.</source>
-        <translation>Click Repair to repair the installation of Nimbulo Pelora.</translation>
+        <translation>Klik op Herstellen om de installatie van Nimbulo Pelora te herstellen.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to repair Nimbulo Pelora.</source>
-        <translation>The Setup Wizard is ready to repair Nimbulo Pelora.</translation>
+        <translation>De installatiewizard is gereed om Nimbulo Pelora te herstellen.</translation>
     </message>
     <message>
         <source>Click Repair to begin.</source>
-        <translation>Click Repair to begin.</translation>
+        <translation>Klik op Herstellen om te beginnen.</translation>
     </message>
     <message>
         <source>Repair Nimbulo Pelora</source>
-        <translation>Repair Nimbulo Pelora</translation>
+        <translation>Nimbulo Pelora herstellen</translation>
     </message>
     <message>
         <source>Nimbulo Pelora Setup was interrupted. Your system has not been modified.</source>
-        <translation>Nimbulo Pelora Setup was interrupted. Your system has not been modified.</translation>
+        <translation>De installatie van Nimbulo Pelora is onderbroken. Uw systeem is niet gewijzigd.</translation>
     </message>
     <message>
         <source>To install this program at a later time, run the installation again. Click Finish to exit the wizard.</source>
-        <translation>To install this program at a later time, run the installation again. Click Finish to exit the wizard.</translation>
+        <translation>Als u dit programma later wilt installeren, voert u de installatie opnieuw uit. Klik op Voltooien om de wizard af te sluiten.</translation>
     </message>
     <message>
         <source>Setup Interrupted</source>
-        <translation>Setup Interrupted</translation>
+        <translation>Installatie onderbroken</translation>
     </message>
     <message>
         <source>The Setup Wizard will install Nimbulo Pelora on your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>The Setup Wizard will install Nimbulo Pelora on your computer. Click Next to continue or Cancel to exit.</translation>
+        <translation>De installatiewizard installeert Nimbulo Pelora op uw computer. Klik op Volgende om door te gaan of op Annuleren om af te sluiten.</translation>
     </message>
     <message>
         <source>Change, repair or remove Nimbulo Pelora.</source>
-        <translation>Change, repair or remove Nimbulo Pelora.</translation>
+        <translation>Nimbulo Pelora wijzigen, herstellen of verwijderen.</translation>
     </message>
     <message>
         <source>Setup has finished.</source>
-        <translation>Setup has finished.</translation>
+        <translation>De installatie is voltooid.</translation>
     </message>
     <message>
         <source>Setup was cancelled.</source>
-        <translation>Setup was cancelled.</translation>
+        <translation>De installatie is geannuleerd.</translation>
     </message>
     <message>
         <source>An error occurred during setup.</source>
-        <translation>An error occurred during setup.</translation>
+        <translation>Er is een fout opgetreden tijdens de installatie.</translation>
     </message>
     <message>
         <source>This wizard guides you through the installation.</source>
-        <translation>This wizard guides you through the installation.</translation>
+        <translation>Deze wizard begeleidt u bij de installatie.</translation>
     </message>
     <message>
         <source>I accept the terms in the License Agreement</source>
-        <translation>I accept the terms in the License Agreement</translation>
+        <translation>Ik ga akkoord met de voorwaarden van de licentieovereenkomst</translation>
     </message>
     <message>
         <source>Connect to Another NAS</source>
-        <translation>Connect to Another NAS</translation>
+        <translation>Verbinden met een andere NAS</translation>
     </message>
     <message>
         <source>Sync History</source>
-        <translation>Sync History</translation>
+        <translation>Synchronisatiegeschiedenis</translation>
     </message>
     <message>
         <source>Sync enabled</source>
-        <translation>Sync enabled</translation>
+        <translation>Synchronisatie ingeschakeld</translation>
     </message>
     <message>
         <source>Folders to Sync</source>
-        <translation>Folders to Sync</translation>
+        <translation>Mappen om te synchroniseren</translation>
     </message>
     <message>
         <source>Your files, on every device.</source>
-        <translation>Your files, on every device.</translation>
+        <translation>Uw bestanden, op elk apparaat.</translation>
     </message>
     <message>
         <source>Your files will now sync in the background. You can find them in %1.</source>
-        <translation>Your files will now sync in the background. You can find them in %1.</translation>
+        <translation>Uw bestanden worden nu op de achtergrond gesynchroniseerd. U vindt ze in %1.</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink the sync task &quot;%1&quot;? Files already on this computer are kept.</source>
-        <translation>Are you sure you want to unlink the sync task &quot;%1&quot;? Files already on this computer are kept.</translation>
+        <translation>Weet u zeker dat u de synchronisatietaak “%1” wilt ontkoppelen? Bestanden die al op deze computer staan, blijven behouden.</translation>
     </message>
     <message>
         <source>File Filters</source>
-        <translation>File Filters</translation>
+        <translation>Bestandsfilters</translation>
     </message>
     <message>
         <source>Created</source>
-        <translation>Created</translation>
+        <translation>Gemaakt</translation>
     </message>
     <message>
         <source>Show an icon on files that are not synced</source>
-        <translation>Show an icon on files that are not synced</translation>
+        <translation>Een pictogram weergeven op bestanden die niet worden gesynchroniseerd</translation>
     </message>
     <message>
         <source>The relay ID &quot;%1&quot; does not exist.</source>
-        <translation>The relay ID &quot;%1&quot; does not exist.</translation>
+        <translation>De relay-ID “%1” bestaat niet.</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation>Yesterday</translation>
+        <translation>Gisteren</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation>Preferences</translation>
+        <translation>Voorkeuren</translation>
     </message>
     <message>
         <source>Sync Tasks</source>
-        <translation>Sync Tasks</translation>
+        <translation>Synchronisatietaken</translation>
     </message>
     <message>
         <source>The server has changed. Please check your sync tasks.</source>
-        <translation>The server has changed. Please check your sync tasks.</translation>
+        <translation>De server is gewijzigd. Controleer uw synchronisatietaken.</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server.</source>
-        <translation>The shared folder is not mounted on the server.</translation>
+        <translation>De gedeelde map is niet gekoppeld op de server.</translation>
     </message>
     <message>
         <source>The remote folder is not available. It may be on an encrypted shared folder that is not mounted.</source>
-        <translation>The remote folder is not available. It may be on an encrypted shared folder that is not mounted.</translation>
+        <translation>De externe map is niet beschikbaar. Mogelijk staat deze in een versleutelde gedeelde map die niet is gekoppeld.</translation>
     </message>
     <message>
         <source>Files beginning with a dot</source>
-        <translation>Files beginning with a dot</translation>
+        <translation>Bestanden die met een punt beginnen</translation>
     </message>
     <message>
         <source>Nimbulo Pelora %1 is already installed.\nDo you want to reinstall it?</source>
-        <translation>Nimbulo Pelora %1 is already installed.\nDo you want to reinstall it?</translation>
+        <translation>Nimbulo Pelora %1 is al geïnstalleerd.\nWilt u het opnieuw installeren?</translation>
     </message>
     <message>
         <source>You need administrator privileges to install Nimbulo Pelora.\nPlease run the installer as an administrator.</source>
-        <translation>You need administrator privileges to install Nimbulo Pelora.\nPlease run the installer as an administrator.</translation>
+        <translation>U hebt beheerdersrechten nodig om Nimbulo Pelora te installeren.\nVoer het installatieprogramma uit als beheerder.</translation>
     </message>
     <message>
         <source>Sync your files with Nimbulo Pelora</source>
-        <translation>Sync your files with Nimbulo Pelora</translation>
+        <translation>Synchroniseer uw bestanden met Nimbulo Pelora</translation>
     </message>
     <message>
         <source>File sharing is not available over a LinkVane connection.</source>
-        <translation>File sharing is not available over a LinkVane connection.</translation>
+        <translation>Bestanden delen is niet beschikbaar via een LinkVane-verbinding.</translation>
     </message>
     <message>
         <source>Tue</source>
-        <translation>Tue</translation>
+        <translation>di</translation>
     </message>
     <message>
         <source>Open Containing Folder</source>
-        <translation>Open Containing Folder</translation>
+        <translation>Bovenliggende map openen</translation>
     </message>
     <message>
         <source>Choose how you want to set up Nimbulo Pelora.</source>
-        <translation>Choose how you want to set up Nimbulo Pelora.</translation>
+        <translation>Kies hoe u Nimbulo Pelora wilt instellen.</translation>
     </message>
     <message>
         <source>Quick Setup</source>
-        <translation>Quick Setup</translation>
+        <translation>Snel instellen</translation>
     </message>
     <message>
         <source>Right-click a file in the sync folder to share it or browse its previous versions.</source>
-        <translation>Right-click a file in the sync folder to share it or browse its previous versions.</translation>
+        <translation>Klik met de rechtermuisknop op een bestand in de synchronisatiemap om het te delen of de vorige versies te bekijken.</translation>
     </message>
     <message>
         <source>Got it</source>
-        <translation>Got it</translation>
+        <translation>Begrepen</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation>Search</translation>
+        <translation>Zoeken</translation>
     </message>
     <message>
         <source>Open the tray menu at any time to see what is syncing.</source>
-        <translation>Open the tray menu at any time to see what is syncing.</translation>
+        <translation>Open op elk moment het systeemvakmenu om te zien wat er wordt gesynchroniseerd.</translation>
     </message>
     <message>
         <source>Changes you make are uploaded as soon as you save them.</source>
-        <translation>Changes you make are uploaded as soon as you save them.</translation>
+        <translation>Uw wijzigingen worden geüpload zodra u ze opslaat.</translation>
     </message>
     <message>
         <source>%1 hours ago</source>
-        <translation>%1 hours ago</translation>
+        <translation>%1 uur geleden</translation>
     </message>
     <message>
         <source>Do Not Sync This Folder</source>
-        <translation>Do Not Sync This Folder</translation>
+        <translation>Deze map niet synchroniseren</translation>
     </message>
     <message>
         <source>History</source>
-        <translation>History</translation>
+        <translation>Geschiedenis</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation>Folder</translation>
+        <translation>Map</translation>
     </message>
     <message>
         <source>Create a new folder on the NAS to sync with this computer.</source>
-        <translation>Create a new folder on the NAS to sync with this computer.</translation>
+        <translation>Maak een nieuwe map op de NAS om met deze computer te synchroniseren.</translation>
     </message>
     <message>
         <source>From</source>
-        <translation>From</translation>
+        <translation>Van</translation>
     </message>
     <message>
         <source>Folder Already Synced</source>
-        <translation>Folder Already Synced</translation>
+        <translation>Map al gesynchroniseerd</translation>
     </message>
     <message>
         <source>This folder is already being synced by another sync task.</source>
-        <translation>This folder is already being synced by another sync task.</translation>
+        <translation>Deze map wordt al gesynchroniseerd door een andere synchronisatietaak.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation>Rename</translation>
+        <translation>Naam wijzigen</translation>
     </message>
     <message>
         <source>Preparing to sync...</source>
-        <translation>Preparing to sync...</translation>
+        <translation>Synchronisatie voorbereiden...</translation>
     </message>
     <message>
         <source>Recently Changed</source>
-        <translation>Recently Changed</translation>
+        <translation>Recent gewijzigd</translation>
     </message>
     <message>
         <source>%1 days ago</source>
-        <translation>%1 days ago</translation>
+        <translation>%1 dagen geleden</translation>
     </message>
     <message>
         <source>Just now</source>
-        <translation>Just now</translation>
+        <translation>Zojuist</translation>
     </message>
     <message>
         <source>%1 minutes ago</source>
-        <translation>%1 minutes ago</translation>
+        <translation>%1 minuten geleden</translation>
     </message>
     <message>
         <source>%1 items</source>
@@ -1225,91 +1225,91 @@
     </message>
     <message>
         <source>Modified Time</source>
-        <translation>Modified Time</translation>
+        <translation>Wijzigingstijd</translation>
     </message>
     <message>
         <source>Keyword</source>
-        <translation>Keyword</translation>
+        <translation>Trefwoord</translation>
     </message>
     <message>
         <source>Last month</source>
-        <translation>Last month</translation>
+        <translation>Vorige maand</translation>
     </message>
     <message>
         <source>Last week</source>
-        <translation>Last week</translation>
+        <translation>Vorige week</translation>
     </message>
     <message>
         <source>Resume Syncing This Folder</source>
-        <translation>Resume Syncing This Folder</translation>
+        <translation>Synchronisatie van deze map hervatten</translation>
     </message>
     <message>
         <source>Resume Syncing These Folders</source>
-        <translation>Resume Syncing These Folders</translation>
+        <translation>Synchronisatie van deze mappen hervatten</translation>
     </message>
     <message>
         <source>Do Not Sync These Folders</source>
-        <translation>Do Not Sync These Folders</translation>
+        <translation>Deze mappen niet synchroniseren</translation>
     </message>
     <message>
         <source>No data</source>
-        <translation>No data</translation>
+        <translation>Geen gegevens</translation>
     </message>
     <message>
         <source>Send to</source>
-        <translation>Send to</translation>
+        <translation>Verzenden naar</translation>
     </message>
     <message>
         <source>Currently syncing: %1</source>
-        <translation>Currently syncing: %1</translation>
+        <translation>Wordt gesynchroniseerd: %1</translation>
     </message>
     <message>
         <source>File</source>
-        <translation>File</translation>
+        <translation>Bestand</translation>
     </message>
     <message>
         <source>Search by file name</source>
-        <translation>Search by file name</translation>
+        <translation>Zoeken op bestandsnaam</translation>
     </message>
     <message>
         <source>File Type</source>
-        <translation>File Type</translation>
+        <translation>Bestandstype</translation>
     </message>
     <message>
         <source>Fri</source>
-        <translation>Fri</translation>
+        <translation>vr</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation>Event</translation>
+        <translation>Gebeurtenis</translation>
     </message>
     <message>
         <source>All events</source>
-        <translation>All events</translation>
+        <translation>Alle gebeurtenissen</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation>Custom</translation>
+        <translation>Aangepast</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>Date</translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Date range</source>
-        <translation>Date range</translation>
+        <translation>Datumbereik</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation>Download</translation>
+        <translation>Downloaden</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation>Reset</translation>
+        <translation>Opnieuw instellen</translation>
     </message>
     <message>
         <source>To</source>
-        <translation>To</translation>
+        <translation>Tot</translation>
     </message>
     <message>
         <source>Type</source>
@@ -1317,323 +1317,323 @@
     </message>
     <message>
         <source>Upload</source>
-        <translation>Upload</translation>
+        <translation>Uploaden</translation>
     </message>
     <message>
         <source>Mon</source>
-        <translation>Mon</translation>
+        <translation>ma</translation>
     </message>
     <message>
         <source>Apr</source>
-        <translation>Apr</translation>
+        <translation>apr</translation>
     </message>
     <message>
         <source>Aug</source>
-        <translation>Aug</translation>
+        <translation>aug</translation>
     </message>
     <message>
         <source>Dec</source>
-        <translation>Dec</translation>
+        <translation>dec</translation>
     </message>
     <message>
         <source>Feb</source>
-        <translation>Feb</translation>
+        <translation>feb</translation>
     </message>
     <message>
         <source>Jan</source>
-        <translation>Jan</translation>
+        <translation>jan</translation>
     </message>
     <message>
         <source>Jul</source>
-        <translation>Jul</translation>
+        <translation>jul</translation>
     </message>
     <message>
         <source>Jun</source>
-        <translation>Jun</translation>
+        <translation>jun</translation>
     </message>
     <message>
         <source>Mar</source>
-        <translation>Mar</translation>
+        <translation>mrt</translation>
     </message>
     <message>
         <source>May</source>
-        <translation>May</translation>
+        <translation>mei</translation>
     </message>
     <message>
         <source>Nov</source>
-        <translation>Nov</translation>
+        <translation>nov</translation>
     </message>
     <message>
         <source>Oct</source>
-        <translation>Oct</translation>
+        <translation>okt</translation>
     </message>
     <message>
         <source>Sep</source>
-        <translation>Sep</translation>
+        <translation>sep</translation>
     </message>
     <message>
         <source>Sat</source>
-        <translation>Sat</translation>
+        <translation>za</translation>
     </message>
     <message>
         <source>Sun</source>
-        <translation>Sun</translation>
+        <translation>zo</translation>
     </message>
     <message>
         <source>Thu</source>
-        <translation>Thu</translation>
+        <translation>do</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation>Today</translation>
+        <translation>Vandaag</translation>
     </message>
     <message>
         <source>Wed</source>
-        <translation>Wed</translation>
+        <translation>wo</translation>
     </message>
     <message>
         <source>Advanced Mode</source>
-        <translation>Advanced Mode</translation>
+        <translation>Geavanceerde modus</translation>
     </message>
     <message>
         <source>Don&apos;t show this message again</source>
-        <translation>Don&apos;t show this message again</translation>
+        <translation>Dit bericht niet meer weergeven</translation>
     </message>
     <message>
         <source>Your files are now syncing with the folder &quot;%1&quot; on the NAS.</source>
-        <translation>Your files are now syncing with the folder &quot;%1&quot; on the NAS.</translation>
+        <translation>Uw bestanden worden nu gesynchroniseerd met de map “%1” op de NAS.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been set up. Your home folder on the NAS is now synced with this computer.</source>
-        <translation>Nimbulo Pelora has been set up. Your home folder on the NAS is now synced with this computer.</translation>
+        <translation>Nimbulo Pelora is ingesteld. Uw thuismap op de NAS wordt nu gesynchroniseerd met deze computer.</translation>
     </message>
     <message>
         <source>Setup Complete</source>
-        <translation>Setup Complete</translation>
+        <translation>Instellen voltooid</translation>
     </message>
     <message>
         <source>Files you put in the sync folder are kept up to date on the NAS and on your other devices.</source>
-        <translation>Files you put in the sync folder are kept up to date on the NAS and on your other devices.</translation>
+        <translation>Bestanden die u in de synchronisatiemap plaatst, blijven up-to-date op de NAS en op uw andere apparaten.</translation>
     </message>
     <message>
         <source>The tray icon shows the sync status at a glance.</source>
-        <translation>The tray icon shows the sync status at a glance.</translation>
+        <translation>Het systeemvakpictogram toont in één oogopslag de synchronisatiestatus.</translation>
     </message>
     <message>
         <source>Setup Mode</source>
-        <translation>Setup Mode</translation>
+        <translation>Instelmodus</translation>
     </message>
     <message>
         <source>Sync your home folder on the NAS with a folder on this computer.</source>
-        <translation>Sync your home folder on the NAS with a folder on this computer.</translation>
+        <translation>Synchroniseer uw thuismap op de NAS met een map op deze computer.</translation>
     </message>
     <message>
         <source>No, thanks</source>
-        <translation>No, thanks</translation>
+        <translation>Nee, bedankt</translation>
     </message>
     <message>
         <source>Welcome</source>
-        <translation>Welcome</translation>
+        <translation>Welkom</translation>
     </message>
     <message>
         <source>Sync Folder</source>
-        <translation>Sync Folder</translation>
+        <translation>Synchronisatiemap</translation>
     </message>
     <message>
         <source>Tray Icon</source>
-        <translation>Tray Icon</translation>
+        <translation>Systeemvakpictogram</translation>
     </message>
     <message>
         <source>Sharing and Versions</source>
-        <translation>Sharing and Versions</translation>
+        <translation>Delen en versies</translation>
     </message>
     <message>
         <source>Search for NAS on the local network</source>
-        <translation>Search for NAS on the local network</translation>
+        <translation>Zoeken naar NAS in het lokale netwerk</translation>
     </message>
     <message>
         <source>Connect with LinkVane</source>
-        <translation>Connect with LinkVane</translation>
+        <translation>Verbinden met LinkVane</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Password:</translation>
+        <translation>Wachtwoord:</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation>Username:</translation>
+        <translation>Gebruikersnaam:</translation>
     </message>
     <message>
         <source>Welcome to Nimbulo Pelora</source>
-        <translation>Welcome to Nimbulo Pelora</translation>
+        <translation>Welkom bij Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Show Main Window</source>
-        <translation>Show Main Window</translation>
+        <translation>Hoofdvenster weergeven</translation>
     </message>
     <message>
         <source>Update Available</source>
-        <translation>Update Available</translation>
+        <translation>Update beschikbaar</translation>
     </message>
     <message>
         <source>Folder on the NAS</source>
-        <translation>Folder on the NAS</translation>
+        <translation>Map op de NAS</translation>
     </message>
     <message>
         <source>New Sync Folder</source>
-        <translation>New Sync Folder</translation>
+        <translation>Nieuwe synchronisatiemap</translation>
     </message>
     <message>
         <source>Sync a new folder</source>
-        <translation>Sync a new folder</translation>
+        <translation>Een nieuwe map synchroniseren</translation>
     </message>
     <message>
         <source>Advanced Setup</source>
-        <translation>Advanced Setup</translation>
+        <translation>Geavanceerd instellen</translation>
     </message>
     <message>
         <source>Open Sync Status</source>
-        <translation>Open Sync Status</translation>
+        <translation>Synchronisatiestatus openen</translation>
     </message>
     <message>
         <source>Choose which folder on the NAS to sync, where to keep it on this computer, and how to sync it.</source>
-        <translation>Choose which folder on the NAS to sync, where to keep it on this computer, and how to sync it.</translation>
+        <translation>Kies welke map op de NAS u wilt synchroniseren, waar u deze op deze computer wilt bewaren en hoe u deze wilt synchroniseren.</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation>Done</translation>
+        <translation>Gereed</translation>
     </message>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
-        <translation>Files larger than %1 MB will not be synced.</translation>
+        <translation>Bestanden groter dan %1 MB worden niet gesynchroniseerd.</translation>
     </message>
     <message>
         <source>Find NAS on the local network</source>
-        <translation>Find NAS on the local network</translation>
+        <translation>NAS zoeken in het lokale netwerk</translation>
     </message>
     <message>
         <source>You only have read permission for &quot;%1&quot;. Changes made on this computer will not be uploaded.</source>
-        <translation>You only have read permission for &quot;%1&quot;. Changes made on this computer will not be uploaded.</translation>
+        <translation>U hebt alleen leesrechten voor “%1”. Wijzigingen op deze computer worden niet geüpload.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be used as a sync folder.</source>
-        <translation>&quot;%1&quot; cannot be used as a sync folder.</translation>
+        <translation>“%1” kan niet als synchronisatiemap worden gebruikt.</translation>
     </message>
     <message>
         <source>More Tips</source>
-        <translation>More Tips</translation>
+        <translation>Meer tips</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; overlaps with the sync folder of another task.</source>
-        <translation>The folder &quot;%1&quot; overlaps with the sync folder of another task.</translation>
+        <translation>De map “%1” overlapt met de synchronisatiemap van een andere taak.</translation>
     </message>
     <message>
         <source>This folder is already synced with &quot;%1&quot;.</source>
-        <translation>This folder is already synced with &quot;%1&quot;.</translation>
+        <translation>Deze map wordt al gesynchroniseerd met “%1”.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is already synced with a folder on the NAS.</source>
-        <translation>The folder &quot;%1&quot; is already synced with a folder on the NAS.</translation>
+        <translation>De map “%1” wordt al gesynchroniseerd met een map op de NAS.</translation>
     </message>
     <message>
         <source>Create a &quot;Nimbulo&quot; folder in the selected location</source>
-        <translation>Create a &quot;Nimbulo&quot; folder in the selected location</translation>
+        <translation>Een map “Nimbulo” maken op de geselecteerde locatie</translation>
     </message>
     <message>
         <source>Copy Sharing Link</source>
-        <translation>Copy Sharing Link</translation>
+        <translation>Deellink kopiëren</translation>
     </message>
     <message>
         <source>Unable to get a sharing link because sharing is disabled on the server.</source>
-        <translation>Unable to get a sharing link because sharing is disabled on the server.</translation>
+        <translation>Kan geen deellink ophalen omdat delen is uitgeschakeld op de server.</translation>
     </message>
     <message>
         <source>The server&apos;s SSL certificate has changed. Do you trust the new certificate?</source>
-        <translation>The server&apos;s SSL certificate has changed. Do you trust the new certificate?</translation>
+        <translation>Het SSL-certificaat van de server is gewijzigd. Vertrouwt u het nieuwe certificaat?</translation>
     </message>
     <message>
         <source>Your IP address is not allowed to connect to this server.</source>
-        <translation>Your IP address is not allowed to connect to this server.</translation>
+        <translation>Uw IP-adres mag geen verbinding maken met deze server.</translation>
     </message>
     <message>
         <source>When the same file has been changed on both sides:</source>
-        <translation>When the same file has been changed on both sides:</translation>
+        <translation>Als hetzelfde bestand aan beide kanten is gewijzigd:</translation>
     </message>
     <message>
         <source>The sync direction does not match the permissions of this folder.</source>
-        <translation>The sync direction does not match the permissions of this folder.</translation>
+        <translation>De synchronisatierichting komt niet overeen met de rechten voor deze map.</translation>
     </message>
     <message>
         <source>Last page</source>
-        <translation>Last page</translation>
+        <translation>Laatste pagina</translation>
     </message>
     <message>
         <source>First page</source>
-        <translation>First page</translation>
+        <translation>Eerste pagina</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation>Previous %1 pages</translation>
+        <translation>Vorige %1 pagina&apos;s</translation>
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation>Next %1 pages</translation>
+        <translation>Volgende %1 pagina&apos;s</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation>Open File</translation>
+        <translation>Bestand openen</translation>
     </message>
     <message>
         <source>Open Folder</source>
-        <translation>Open Folder</translation>
+        <translation>Map openen</translation>
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation>Unlinking...</translation>
+        <translation>Ontkoppelen...</translation>
     </message>
     <message>
         <source>Too many failed attempts. Please try again later.</source>
-        <translation>Too many failed attempts. Please try again later.</translation>
+        <translation>Te veel mislukte pogingen. Probeer het later opnieuw.</translation>
     </message>
     <message>
         <source>This file is locked by another application.</source>
-        <translation>This file is locked by another application.</translation>
+        <translation>Dit bestand is vergrendeld door een andere toepassing.</translation>
     </message>
     <message>
         <source>Unable to check &quot;%1&quot; because of a network error.</source>
-        <translation>Unable to check &quot;%1&quot; because of a network error.</translation>
+        <translation>Kan “%1” niet controleren vanwege een netwerkfout.</translation>
     </message>
     <message>
         <source>Keep the most recently modified version</source>
-        <translation>Keep the most recently modified version</translation>
+        <translation>De meest recent gewijzigde versie behouden</translation>
     </message>
     <message>
         <source>Two-way sync</source>
-        <translation>Two-way sync</translation>
+        <translation>Synchronisatie in twee richtingen</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your account.</source>
-        <translation>Enter the address of your NAS and your account.</translation>
+        <translation>Voer het adres van uw NAS en uw accountgegevens in.</translation>
     </message>
     <message>
         <source>Unable to create the local folder &quot;%1&quot;.</source>
-        <translation>Unable to create the local folder &quot;%1&quot;.</translation>
+        <translation>Kan de lokale map “%1” niet maken.</translation>
     </message>
     <message>
         <source>Select a folder on the NAS and a folder on this computer to sync with each other.</source>
-        <translation>Select a folder on the NAS and a folder on this computer to sync with each other.</translation>
+        <translation>Selecteer een map op de NAS en een map op deze computer die met elkaar worden gesynchroniseerd.</translation>
     </message>
     <message>
         <source>Set Sync Folders</source>
-        <translation>Set Sync Folders</translation>
+        <translation>Synchronisatiemappen instellen</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is now syncing &quot;%1&quot; on the NAS with &quot;%2&quot; on this computer.</source>
-        <translation>Nimbulo Pelora is now syncing &quot;%1&quot; on the NAS with &quot;%2&quot; on this computer.</translation>
+        <translation>Nimbulo Pelora synchroniseert nu “%1” op de NAS met “%2” op deze computer.</translation>
     </message>
     <message>
         <source>When files conflict, the server&apos;s copy is kept and the local copy is backed up.</source>
-        <translation>When files conflict, the server&apos;s copy is kept and the local copy is backed up.</translation>
+        <translation>Bij conflicten blijft de kopie van de server behouden en wordt er een back-up van de lokale kopie gemaakt.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora</source>
@@ -1641,47 +1641,47 @@
     </message>
     <message>
         <source>Enable On-demand Sync</source>
-        <translation>Enable On-demand Sync</translation>
+        <translation>Synchronisatie op aanvraag inschakelen</translation>
     </message>
     <message>
         <source>The verification code is incorrect.</source>
-        <translation>The verification code is incorrect.</translation>
+        <translation>De verificatiecode is onjuist.</translation>
     </message>
     <message>
         <source>This account requires a verification code.</source>
-        <translation>This account requires a verification code.</translation>
+        <translation>Voor dit account is een verificatiecode vereist.</translation>
     </message>
     <message>
         <source>Enter the verification code from your authenticator app:</source>
-        <translation>Enter the verification code from your authenticator app:</translation>
+        <translation>Voer de verificatiecode uit uw verificatie-app in:</translation>
     </message>
     <message>
         <source>Your quota on the NAS is full. &quot;%1&quot; cannot be synced.</source>
-        <translation>Your quota on the NAS is full. &quot;%1&quot; cannot be synced.</translation>
+        <translation>Uw quotum op de NAS is vol. “%1” kan niet worden gesynchroniseerd.</translation>
     </message>
     <message>
         <source>The server certificate has changed. Unable to sync &quot;%1&quot;.</source>
-        <translation>The server certificate has changed. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Het servercertificaat is gewijzigd. Kan “%1” niet synchroniseren.</translation>
     </message>
     <message>
         <source>The server certificate cannot be verified. Unable to sync &quot;%1&quot;.</source>
-        <translation>The server certificate cannot be verified. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Het servercertificaat kan niet worden geverifieerd. Kan “%1” niet synchroniseren.</translation>
     </message>
     <message>
         <source>A system error occurred while checking the sync folder.</source>
-        <translation>A system error occurred while checking the sync folder.</translation>
+        <translation>Er is een systeemfout opgetreden bij het controleren van de synchronisatiemap.</translation>
     </message>
     <message>
         <source>Overwrite the local copy with the server&apos;s copy</source>
-        <translation>Overwrite the local copy with the server&apos;s copy</translation>
+        <translation>De lokale kopie overschrijven met de kopie van de server</translation>
     </message>
     <message>
         <source>Keep both copies and rename the local one</source>
-        <translation>Keep both copies and rename the local one</translation>
+        <translation>Beide kopieën behouden en de lokale kopie een andere naam geven</translation>
     </message>
     <message>
         <source>A newer version of Nimbulo Pelora (%1) is already installed.\nSetup will now exit.</source>
-        <translation>A newer version of Nimbulo Pelora (%1) is already installed.\nSetup will now exit.</translation>
+        <translation>Er is al een nieuwere versie van Nimbulo Pelora (%1) geïnstalleerd.\nHet installatieprogramma wordt nu afgesloten.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is ready.</source>
@@ -1693,307 +1693,307 @@
     </message>
     <message>
         <source>No folder that you can sync was found.</source>
-        <translation>No folder that you can sync was found.</translation>
+        <translation>Er is geen map gevonden die u kunt synchroniseren.</translation>
     </message>
     <message>
         <source>Show the tutorial</source>
-        <translation>Show the tutorial</translation>
+        <translation>De zelfstudie weergeven</translation>
     </message>
     <message>
         <source>Files in the local folder will be merged with the files on the NAS.</source>
-        <translation>Files in the local folder will be merged with the files on the NAS.</translation>
+        <translation>Bestanden in de lokale map worden samengevoegd met de bestanden op de NAS.</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora when the computer starts</source>
-        <translation>Start Nimbulo Pelora when the computer starts</translation>
+        <translation>Nimbulo Pelora starten wanneer de computer opstart</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered an error.</source>
-        <translation>Nimbulo Pelora has encountered an error.</translation>
+        <translation>Er is een fout opgetreden in Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is running.</source>
-        <translation>Nimbulo Pelora is running.</translation>
+        <translation>Nimbulo Pelora wordt uitgevoerd.</translation>
     </message>
     <message>
         <source>This version of Nimbulo Pelora is no longer supported. Please update it.</source>
-        <translation>This version of Nimbulo Pelora is no longer supported. Please update it.</translation>
+        <translation>Deze versie van Nimbulo Pelora wordt niet meer ondersteund. Werk deze bij.</translation>
     </message>
     <message>
         <source>Click to update Nimbulo Pelora</source>
-        <translation>Click to update Nimbulo Pelora</translation>
+        <translation>Klik om Nimbulo Pelora bij te werken</translation>
     </message>
     <message>
         <source>Please update the sync service on the server to use selective sync.</source>
-        <translation>Please update the sync service on the server to use selective sync.</translation>
+        <translation>Werk de synchronisatieservice op de server bij om selectieve synchronisatie te gebruiken.</translation>
     </message>
     <message>
         <source>There is not enough free space on this computer to sync &quot;%1&quot;.</source>
-        <translation>There is not enough free space on this computer to sync &quot;%1&quot;.</translation>
+        <translation>Er is onvoldoende vrije ruimte op deze computer om “%1” te synchroniseren.</translation>
     </message>
     <message>
         <source>Sign in to your NAS to start syncing.</source>
-        <translation>Sign in to your NAS to start syncing.</translation>
+        <translation>Meld u aan bij uw NAS om te beginnen met synchroniseren.</translation>
     </message>
     <message>
         <source>Keep the files on this computer in sync with your NAS.</source>
-        <translation>Keep the files on this computer in sync with your NAS.</translation>
+        <translation>Houd de bestanden op deze computer gesynchroniseerd met uw NAS.</translation>
     </message>
     <message>
         <source>Shared folder not found</source>
-        <translation>Shared folder not found</translation>
+        <translation>Gedeelde map niet gevonden</translation>
     </message>
     <message>
         <source>About Nimbulo Pelora</source>
-        <translation>About Nimbulo Pelora</translation>
+        <translation>Over Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Your administrator requires two-step verification. Please enable it in your account settings first.</source>
-        <translation>Your administrator requires two-step verification. Please enable it in your account settings first.</translation>
+        <translation>Uw beheerder vereist verificatie in twee stappen. Schakel deze eerst in bij uw accountinstellingen.</translation>
     </message>
     <message>
         <source>The quota of the shared folder is full.</source>
-        <translation>The quota of the shared folder is full.</translation>
+        <translation>Het quotum van de gedeelde map is vol.</translation>
     </message>
     <message>
         <source>Sync Direction</source>
-        <translation>Sync Direction</translation>
+        <translation>Synchronisatierichting</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered a problem while syncing. Click for details.</source>
-        <translation>Nimbulo Pelora has encountered a problem while syncing. Click for details.</translation>
+        <translation>Nimbulo Pelora heeft een probleem ondervonden bij het synchroniseren. Klik voor details.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora keeps your files up to date on all of your devices.</source>
-        <translation>Nimbulo Pelora keeps your files up to date on all of your devices.</translation>
+        <translation>Nimbulo Pelora houdt uw bestanden up-to-date op al uw apparaten.</translation>
     </message>
     <message>
         <source>Some fields contain invalid values.</source>
-        <translation>Some fields contain invalid values.</translation>
+        <translation>Sommige velden bevatten ongeldige waarden.</translation>
     </message>
     <message>
         <source>You do not have permission to access &quot;%1&quot;.</source>
-        <translation>You do not have permission to access &quot;%1&quot;.</translation>
+        <translation>U hebt geen toegang tot “%1”.</translation>
     </message>
     <message>
         <source>Your account has been disabled. Unable to sync &quot;%1&quot;.</source>
-        <translation>Your account has been disabled. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Uw account is uitgeschakeld. Kan “%1” niet synchroniseren.</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Address</translation>
+        <translation>Adres</translation>
     </message>
     <message>
         <source>Expires after</source>
-        <translation>Expires after</translation>
+        <translation>Verloopt na</translation>
     </message>
     <message>
         <source>No options available</source>
-        <translation>No options available</translation>
+        <translation>Geen opties beschikbaar</translation>
     </message>
     <message>
         <source>You need an account on a NAS with the sync service installed.</source>
-        <translation>You need an account on a NAS with the sync service installed.</translation>
+        <translation>U hebt een account nodig op een NAS waarop de synchronisatieservice is geïnstalleerd.</translation>
     </message>
     <message>
         <source>Authentication failed. Please check your username and password.</source>
-        <translation>Authentication failed. Please check your username and password.</translation>
+        <translation>Verificatie mislukt. Controleer uw gebruikersnaam en wachtwoord.</translation>
     </message>
     <message>
         <source>Use * to match any characters. Separate entries with commas.</source>
-        <translation>Use * to match any characters. Separate entries with commas.</translation>
+        <translation>Gebruik * voor willekeurige tekens. Scheid items met komma&apos;s.</translation>
     </message>
     <message>
         <source>One-way download</source>
-        <translation>One-way download</translation>
+        <translation>Eenrichtingsdownload</translation>
     </message>
     <message>
         <source>A folder named &quot;%1&quot; already exists.</source>
-        <translation>A folder named &quot;%1&quot; already exists.</translation>
+        <translation>Er bestaat al een map met de naam “%1”.</translation>
     </message>
     <message>
         <source>Sync extended attributes</source>
-        <translation>Sync extended attributes</translation>
+        <translation>Uitgebreide kenmerken synchroniseren</translation>
     </message>
     <message>
         <source>I do not accept the terms in the License Agreement</source>
-        <translation>I do not accept the terms in the License Agreement</translation>
+        <translation>Ik ga niet akkoord met de voorwaarden van de licentieovereenkomst</translation>
     </message>
     <message>
         <source>Sharing Link</source>
-        <translation>Sharing Link</translation>
+        <translation>Deellink</translation>
     </message>
     <message>
         <source>Expires on</source>
-        <translation>Expires on</translation>
+        <translation>Verloopt op</translation>
     </message>
     <message>
         <source>This field is required.</source>
-        <translation>This field is required.</translation>
+        <translation>Dit veld is verplicht.</translation>
     </message>
     <message>
         <source>Restrict access to users with an account</source>
-        <translation>Restrict access to users with an account</translation>
+        <translation>Toegang beperken tot gebruikers met een account</translation>
     </message>
     <message>
         <source>Show Nimbulo Pelora in the context menu</source>
-        <translation>Show Nimbulo Pelora in the context menu</translation>
+        <translation>Nimbulo Pelora weergeven in het contextmenu</translation>
     </message>
     <message>
         <source>The home folder service is disabled on the NAS.</source>
-        <translation>The home folder service is disabled on the NAS.</translation>
+        <translation>De thuismapservice is uitgeschakeld op de NAS.</translation>
     </message>
     <message>
         <source>Unable to update Nimbulo Pelora. Please try again later.</source>
-        <translation>Unable to update Nimbulo Pelora. Please try again later.</translation>
+        <translation>Kan Nimbulo Pelora niet bijwerken. Probeer het later opnieuw.</translation>
     </message>
     <message>
         <source>Apply and Copy Link</source>
-        <translation>Apply and Copy Link</translation>
+        <translation>Toepassen en link kopiëren</translation>
     </message>
     <message>
         <source>Limit the number of accesses</source>
-        <translation>Limit the number of accesses</translation>
+        <translation>Aantal keren openen beperken</translation>
     </message>
     <message>
         <source>Available from</source>
-        <translation>Available from</translation>
+        <translation>Beschikbaar vanaf</translation>
     </message>
     <message>
         <source>A new version of Nimbulo Pelora is required to connect to this server. Update now?</source>
-        <translation>A new version of Nimbulo Pelora is required to connect to this server. Update now?</translation>
+        <translation>Er is een nieuwe versie van Nimbulo Pelora nodig om verbinding te maken met deze server. Nu bijwerken?</translation>
     </message>
     <message>
         <source>Add file name</source>
-        <translation>Add file name</translation>
+        <translation>Bestandsnaam toevoegen</translation>
     </message>
     <message>
         <source>Local destination</source>
-        <translation>Local destination</translation>
+        <translation>Lokale bestemming</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation>Language</translation>
+        <translation>Taal</translation>
     </message>
     <message>
         <source>Remote NAS</source>
-        <translation>Remote NAS</translation>
+        <translation>Externe NAS</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation>This computer</translation>
+        <translation>Deze computer</translation>
     </message>
     <message>
         <source>Download the selected version</source>
-        <translation>Download the selected version</translation>
+        <translation>De geselecteerde versie downloaden</translation>
     </message>
     <message>
         <source>Custom duration</source>
-        <translation>Custom duration</translation>
+        <translation>Aangepaste duur</translation>
     </message>
     <message>
         <source>Refresh sync history</source>
-        <translation>Refresh sync history</translation>
+        <translation>Synchronisatiegeschiedenis vernieuwen</translation>
     </message>
     <message>
         <source>On-demand Sync</source>
-        <translation>On-demand Sync</translation>
+        <translation>Synchronisatie op aanvraag</translation>
     </message>
     <message>
         <source>Filter sync history</source>
-        <translation>Filter sync history</translation>
+        <translation>Synchronisatiegeschiedenis filteren</translation>
     </message>
     <message>
         <source>Add folder</source>
-        <translation>Add folder</translation>
+        <translation>Map toevoegen</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation>Calendar</translation>
+        <translation>Agenda</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation>Next month</translation>
+        <translation>Volgende maand</translation>
     </message>
     <message>
         <source>Previous month</source>
-        <translation>Previous month</translation>
+        <translation>Vorige maand</translation>
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation>Change sync folder</translation>
+        <translation>Synchronisatiemap wijzigen</translation>
     </message>
     <message>
         <source>Event category</source>
-        <translation>Event category</translation>
+        <translation>Gebeurteniscategorie</translation>
     </message>
     <message>
         <source>Sync task details</source>
-        <translation>Sync task details</translation>
+        <translation>Details van synchronisatietaak</translation>
     </message>
     <message>
         <source>Remote destination</source>
-        <translation>Remote destination</translation>
+        <translation>Externe bestemming</translation>
     </message>
     <message>
         <source>Close tutorial</source>
-        <translation>Close tutorial</translation>
+        <translation>Zelfstudie sluiten</translation>
     </message>
     <message>
         <source>Tutorial: learn how to use Nimbulo Pelora.</source>
-        <translation>Tutorial: learn how to use Nimbulo Pelora.</translation>
+        <translation>Zelfstudie: leer hoe u Nimbulo Pelora gebruikt.</translation>
     </message>
     <message>
         <source>Cancel download</source>
-        <translation>Cancel download</translation>
+        <translation>Downloaden annuleren</translation>
     </message>
     <message>
         <source>Delete version</source>
-        <translation>Delete version</translation>
+        <translation>Versie verwijderen</translation>
     </message>
     <message>
         <source>Unable to enable On-demand Sync for &quot;%1&quot;.</source>
-        <translation>Unable to enable On-demand Sync for &quot;%1&quot;.</translation>
+        <translation>Kan synchronisatie op aanvraag niet inschakelen voor “%1”.</translation>
     </message>
     <message>
         <source>This file is not available because there is no connection to the server.</source>
-        <translation>This file is not available because there is no connection to the server.</translation>
+        <translation>Dit bestand is niet beschikbaar omdat er geen verbinding met de server is.</translation>
     </message>
     <message>
         <source>Renamed on this computer</source>
-        <translation>Renamed on this computer</translation>
+        <translation>Naam gewijzigd op deze computer</translation>
     </message>
     <message>
         <source>Renamed on the server</source>
-        <translation>Renamed on the server</translation>
+        <translation>Naam gewijzigd op de server</translation>
     </message>
     <message>
         <source>Please enter no more than %1 characters.</source>
-        <translation>Please enter no more than %1 characters.</translation>
+        <translation>Voer maximaal %1 tekens in.</translation>
     </message>
     <message>
         <source>Your password has expired. Please change it on the server and sign in again.</source>
-        <translation>Your password has expired. Please change it on the server and sign in again.</translation>
+        <translation>Uw wachtwoord is verlopen. Wijzig het op de server en meld u opnieuw aan.</translation>
     </message>
     <message>
         <source>This folder was synced by a different user. Please choose another folder.</source>
-        <translation>This folder was synced by a different user. Please choose another folder.</translation>
+        <translation>Deze map is door een andere gebruiker gesynchroniseerd. Kies een andere map.</translation>
     </message>
     <message>
         <source>Relay connections are disabled on the server.</source>
-        <translation>Relay connections are disabled on the server.</translation>
+        <translation>Relayverbindingen zijn uitgeschakeld op de server.</translation>
     </message>
     <message>
         <source>Authentication failed for &quot;%1&quot;. Please sign in again.</source>
-        <translation>Authentication failed for &quot;%1&quot;. Please sign in again.</translation>
+        <translation>Verificatie mislukt voor “%1”. Meld u opnieuw aan.</translation>
     </message>
     <message>
         <source>Unable to get the link to this file.</source>
-        <translation>Unable to get the link to this file.</translation>
+        <translation>Kan de link naar dit bestand niet ophalen.</translation>
     </message>
     <message>
         <source>Temporary files</source>
-        <translation>Temporary files</translation>
+        <translation>Tijdelijke bestanden</translation>
     </message>
     <message>
         <source>Later</source>
@@ -2001,183 +2001,183 @@
     </message>
     <message>
         <source>Congratulations!</source>
-        <translation>Congratulations!</translation>
+        <translation>Gefeliciteerd!</translation>
     </message>
     <message>
         <source>Folders others have shared with you</source>
-        <translation>Folders others have shared with you</translation>
+        <translation>Mappen die anderen met u hebben gedeeld</translation>
     </message>
     <message>
         <source>You have read-only access to this folder. Changes you make here stay on this computer.</source>
-        <translation>You have read-only access to this folder. Changes you make here stay on this computer.</translation>
+        <translation>U hebt alleen leestoegang tot deze map. Wijzigingen die u hier aanbrengt, blijven op deze computer.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is now syncing &quot;%1&quot; on the server with &quot;%2&quot; on this computer.</source>
-        <translation>Nimbulo Pelora is now syncing &quot;%1&quot; on the server with &quot;%2&quot; on this computer.</translation>
+        <translation>Nimbulo Pelora synchroniseert nu “%1” op de server met “%2” op deze computer.</translation>
     </message>
     <message>
         <source>Show the Nimbulo Pelora tutorial</source>
-        <translation>Show the Nimbulo Pelora tutorial</translation>
+        <translation>De zelfstudie van Nimbulo Pelora weergeven</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is running in the background.</source>
-        <translation>Nimbulo Pelora is running in the background.</translation>
+        <translation>Nimbulo Pelora wordt op de achtergrond uitgevoerd.</translation>
     </message>
     <message>
         <source>Sign in to your server to start syncing.</source>
-        <translation>Sign in to your server to start syncing.</translation>
+        <translation>Meld u aan bij uw server om te beginnen met synchroniseren.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be updated. Please download the latest version and install it again.</source>
-        <translation>Nimbulo Pelora could not be updated. Please download the latest version and install it again.</translation>
+        <translation>Nimbulo Pelora kan niet worden bijgewerkt. Download de nieuwste versie en installeer deze opnieuw.</translation>
     </message>
     <message>
         <source>You need an account on a server with the sync service installed.</source>
-        <translation>You need an account on a server with the sync service installed.</translation>
+        <translation>U hebt een account nodig op een server waarop de synchronisatieservice is geïnstalleerd.</translation>
     </message>
     <message>
         <source>Conflicting changes are kept in both copies: the server copy is renamed with the user name.</source>
-        <translation>Conflicting changes are kept in both copies: the server copy is renamed with the user name.</translation>
+        <translation>Conflicterende wijzigingen worden in beide kopieën bewaard: de kopie op de server krijgt de gebruikersnaam in de bestandsnaam.</translation>
     </message>
     <message>
         <source>Tutorial: learn how to sync with Nimbulo Pelora.</source>
-        <translation>Tutorial: learn how to sync with Nimbulo Pelora.</translation>
+        <translation>Zelfstudie: leer hoe u synchroniseert met Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>The server ID &quot;%1&quot; does not exist.</source>
-        <translation>The server ID &quot;%1&quot; does not exist.</translation>
+        <translation>De server-ID “%1” bestaat niet.</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora when I sign in</source>
-        <translation>Start Nimbulo Pelora when I sign in</translation>
+        <translation>Nimbulo Pelora starten wanneer ik me aanmeld</translation>
     </message>
     <message>
         <source>Choose a folder on the server and a folder on this computer.</source>
-        <translation>Choose a folder on the server and a folder on this computer.</translation>
+        <translation>Kies een map op de server en een map op deze computer.</translation>
     </message>
     <message>
         <source>This sync task belongs to a different server.</source>
-        <translation>This sync task belongs to a different server.</translation>
+        <translation>Deze synchronisatietaak hoort bij een andere server.</translation>
     </message>
     <message>
         <source>The server uses a protocol that this version of Nimbulo Pelora does not support.</source>
-        <translation>The server uses a protocol that this version of Nimbulo Pelora does not support.</translation>
+        <translation>De server gebruikt een protocol dat deze versie van Nimbulo Pelora niet ondersteunt.</translation>
     </message>
     <message>
         <source>The disk is full. Nimbulo Pelora has paused syncing.</source>
-        <translation>The disk is full. Nimbulo Pelora has paused syncing.</translation>
+        <translation>De schijf is vol. Nimbulo Pelora heeft de synchronisatie onderbroken.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered an error. Please restart it.</source>
-        <translation>Nimbulo Pelora has encountered an error. Please restart it.</translation>
+        <translation>Er is een fout opgetreden in Nimbulo Pelora. Start het programma opnieuw.</translation>
     </message>
     <message>
         <source>The selected folder is not empty. Its files will be uploaded to the server.</source>
-        <translation>The selected folder is not empty. Its files will be uploaded to the server.</translation>
+        <translation>De geselecteerde map is niet leeg. De bestanden erin worden naar de server geüpload.</translation>
     </message>
     <message>
         <source>Download changes from the server only</source>
-        <translation>Download changes from the server only</translation>
+        <translation>Alleen wijzigingen van de server downloaden</translation>
     </message>
     <message>
         <source>Your files are now syncing with the folder &quot;%1&quot; on the server.</source>
-        <translation>Your files are now syncing with the folder &quot;%1&quot; on the server.</translation>
+        <translation>Uw bestanden worden nu gesynchroniseerd met de map “%1” op de server.</translation>
     </message>
     <message>
         <source>Varnex Pelora %1 is already installed.\nDo you want to reinstall it?</source>
-        <translation>Varnex Pelora %1 is already installed.\nDo you want to reinstall it?</translation>
+        <translation>Varnex Pelora %1 is al geïnstalleerd.\nWilt u het opnieuw installeren?</translation>
     </message>
     <message>
         <source>Not enough free space to sync &quot;%1&quot;. Free up some space and try again.</source>
-        <translation>Not enough free space to sync &quot;%1&quot;. Free up some space and try again.</translation>
+        <translation>Onvoldoende vrije ruimte om “%1” te synchroniseren. Maak ruimte vrij en probeer het opnieuw.</translation>
     </message>
     <message>
         <source>Keep the files on this computer in sync with your server.</source>
-        <translation>Keep the files on this computer in sync with your server.</translation>
+        <translation>Houd de bestanden op deze computer gesynchroniseerd met uw server.</translation>
     </message>
     <message>
         <source>Create a &quot;Varnex Pelora&quot; folder in the selected location</source>
-        <translation>Create a &quot;Varnex Pelora&quot; folder in the selected location</translation>
+        <translation>Een map “Varnex Pelora” maken op de geselecteerde locatie</translation>
     </message>
     <message>
         <source>A newer version of Varnex Pelora (%1) is already installed.\nSetup will now exit.</source>
-        <translation>A newer version of Varnex Pelora (%1) is already installed.\nSetup will now exit.</translation>
+        <translation>Er is al een nieuwere versie van Varnex Pelora (%1) geïnstalleerd.\nHet installatieprogramma wordt nu afgesloten.</translation>
     </message>
     <message>
         <source>Sync a folder of your choice on the server.</source>
-        <translation>Sync a folder of your choice on the server.</translation>
+        <translation>Synchroniseer een map naar keuze op de server.</translation>
     </message>
     <message>
         <source>Automatic setup failed. Please set up Nimbulo Pelora manually.</source>
-        <translation>Automatic setup failed. Please set up Nimbulo Pelora manually.</translation>
+        <translation>Automatisch instellen is mislukt. Stel Nimbulo Pelora handmatig in.</translation>
     </message>
     <message>
         <source>Finishing automatic setup...</source>
-        <translation>Finishing automatic setup...</translation>
+        <translation>Automatisch instellen voltooien...</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation>Share</translation>
+        <translation>Delen</translation>
     </message>
     <message>
         <source>No data available.</source>
-        <translation>No data available.</translation>
+        <translation>Geen gegevens beschikbaar.</translation>
     </message>
     <message>
         <source>No shared folders are available.</source>
-        <translation>No shared folders are available.</translation>
+        <translation>Er zijn geen gedeelde mappen beschikbaar.</translation>
     </message>
     <message>
         <source>The file or folder does not exist.</source>
-        <translation>The file or folder does not exist.</translation>
+        <translation>Het bestand of de map bestaat niet.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been configured by your administrator.</source>
-        <translation>Nimbulo Pelora has been configured by your administrator.</translation>
+        <translation>Nimbulo Pelora is geconfigureerd door uw beheerder.</translation>
     </message>
     <message>
         <source>Internal users</source>
-        <translation>Internal users</translation>
+        <translation>Interne gebruikers</translation>
     </message>
     <message>
         <source>Users of the server can view the file.</source>
-        <translation>Users of the server can view the file.</translation>
+        <translation>Gebruikers van de server kunnen het bestand bekijken.</translation>
     </message>
     <message>
         <source>Users of the server can view and edit the file.</source>
-        <translation>Users of the server can view and edit the file.</translation>
+        <translation>Gebruikers van de server kunnen het bestand bekijken en bewerken.</translation>
     </message>
     <message>
         <source>Specific people</source>
-        <translation>Specific people</translation>
+        <translation>Specifieke personen</translation>
     </message>
     <message>
         <source>Only people you invite can access the file.</source>
-        <translation>Only people you invite can access the file.</translation>
+        <translation>Alleen personen die u uitnodigt, hebben toegang tot het bestand.</translation>
     </message>
     <message>
         <source>Anyone with the link</source>
-        <translation>Anyone with the link</translation>
+        <translation>Iedereen met de link</translation>
     </message>
     <message>
         <source>Anyone with the link can view the file.</source>
-        <translation>Anyone with the link can view the file.</translation>
+        <translation>Iedereen met de link kan het bestand bekijken.</translation>
     </message>
     <message>
         <source>Anyone with the link can view and edit the file.</source>
-        <translation>Anyone with the link can view and edit the file.</translation>
+        <translation>Iedereen met de link kan het bestand bekijken en bewerken.</translation>
     </message>
     <message>
         <source>Can view</source>
-        <translation>Can view</translation>
+        <translation>Kan bekijken</translation>
     </message>
     <message>
         <source>Can edit</source>
-        <translation>Can edit</translation>
+        <translation>Kan bewerken</translation>
     </message>
     <message>
         <source>Invite</source>
-        <translation>Invite</translation>
+        <translation>Uitnodigen</translation>
     </message>
     <message>
         <source>Link</source>
@@ -2185,215 +2185,215 @@
     </message>
     <message>
         <source>Link permission:</source>
-        <translation>Link permission:</translation>
+        <translation>Linkrechten:</translation>
     </message>
     <message>
         <source>Users and groups</source>
-        <translation>Users and groups</translation>
+        <translation>Gebruikers en groepen</translation>
     </message>
     <message>
         <source>Use a black-and-white icon in the menu bar</source>
-        <translation>Use a black-and-white icon in the menu bar</translation>
+        <translation>Een zwart-wit pictogram gebruiken in de menubalk</translation>
     </message>
     <message>
         <source>Show the sync folder in the sidebar of file windows</source>
-        <translation>Show the sync folder in the sidebar of file windows</translation>
+        <translation>De synchronisatiemap weergeven in de navigatiekolom van bestandsvensters</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation>Display</translation>
+        <translation>Weergave</translation>
     </message>
     <message>
         <source>Unable to connect to the server</source>
-        <translation>Unable to connect to the server</translation>
+        <translation>Kan geen verbinding maken met de server</translation>
     </message>
     <message>
         <source>Notifications</source>
-        <translation>Notifications</translation>
+        <translation>Meldingen</translation>
     </message>
     <message>
         <source>%1 commented on %2</source>
-        <translation>%1 commented on %2</translation>
+        <translation>%1 heeft gereageerd op %2</translation>
     </message>
     <message>
         <source>%1 mentioned you in %2</source>
-        <translation>%1 mentioned you in %2</translation>
+        <translation>%1 heeft u vermeld in %2</translation>
     </message>
     <message>
         <source>%1 requested access to %2</source>
-        <translation>%1 requested access to %2</translation>
+        <translation>%1 heeft toegang tot %2 aangevraagd</translation>
     </message>
     <message>
         <source>%1 shared %2 with you</source>
-        <translation>%1 shared %2 with you</translation>
+        <translation>%1 heeft %2 met u gedeeld</translation>
     </message>
     <message>
         <source>Open in Web Portal</source>
-        <translation>Open in Web Portal</translation>
+        <translation>Openen in webportal</translation>
     </message>
     <message>
         <source>Sync</source>
-        <translation>Sync</translation>
+        <translation>Synchronisatie</translation>
     </message>
     <message>
         <source>Shared</source>
-        <translation>Shared</translation>
+        <translation>Gedeeld</translation>
     </message>
     <message>
         <source>Set Up</source>
-        <translation>Set Up</translation>
+        <translation>Instellen</translation>
     </message>
     <message>
         <source>%1 is requesting access to this file.</source>
-        <translation>%1 is requesting access to this file.</translation>
+        <translation>%1 vraagt toegang tot dit bestand.</translation>
     </message>
     <message>
         <source>Comments</source>
-        <translation>Comments</translation>
+        <translation>Reacties</translation>
     </message>
     <message>
         <source>Mentions</source>
-        <translation>Mentions</translation>
+        <translation>Vermeldingen</translation>
     </message>
     <message>
         <source>Sync the folders shared with you as well?</source>
-        <translation>Sync the folders shared with you as well?</translation>
+        <translation>Ook de mappen synchroniseren die met u zijn gedeeld?</translation>
     </message>
     <message>
         <source>One-way upload</source>
-        <translation>One-way upload</translation>
+        <translation>Eenrichtingsupload</translation>
     </message>
     <message>
         <source>Do not remove files on the server when they are removed locally</source>
-        <translation>Do not remove files on the server when they are removed locally</translation>
+        <translation>Bestanden op de server niet verwijderen wanneer ze lokaal worden verwijderd</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has been downloaded.</source>
-        <translation>&quot;%1&quot; has been downloaded.</translation>
+        <translation>“%1” is gedownload.</translation>
     </message>
     <message>
         <source>Your files are synced on all devices.</source>
-        <translation>Your files are synced on all devices.</translation>
+        <translation>Uw bestanden zijn gesynchroniseerd op al uw apparaten.</translation>
     </message>
     <message>
         <source>You can also access your files from the web portal.</source>
-        <translation>You can also access your files from the web portal.</translation>
+        <translation>U kunt uw bestanden ook openen via het webportal.</translation>
     </message>
     <message>
         <source>Your sync task is ready.</source>
-        <translation>Your sync task is ready.</translation>
+        <translation>Uw synchronisatietaak is gereed.</translation>
     </message>
     <message>
         <source>Start Tour</source>
-        <translation>Start Tour</translation>
+        <translation>Rondleiding starten</translation>
     </message>
     <message>
         <source>Files and folders that others share with you can also be synced to this computer.</source>
-        <translation>Files and folders that others share with you can also be synced to this computer.</translation>
+        <translation>Bestanden en mappen die anderen met u delen, kunnen ook met deze computer worden gesynchroniseerd.</translation>
     </message>
     <message>
         <source>Maybe later</source>
-        <translation>Maybe later</translation>
+        <translation>Misschien later</translation>
     </message>
     <message>
         <source>Sync now</source>
-        <translation>Sync now</translation>
+        <translation>Nu synchroniseren</translation>
     </message>
     <message>
         <source>Shared with Me</source>
-        <translation>Shared with Me</translation>
+        <translation>Gedeeld met mij</translation>
     </message>
     <message>
         <source>Create Sync Task</source>
-        <translation>Create Sync Task</translation>
+        <translation>Synchronisatietaak maken</translation>
     </message>
     <message>
         <source>Choose what you want to sync.</source>
-        <translation>Choose what you want to sync.</translation>
+        <translation>Kies wat u wilt synchroniseren.</translation>
     </message>
     <message>
         <source>General Sync Task</source>
-        <translation>General Sync Task</translation>
+        <translation>Algemene synchronisatietaak</translation>
     </message>
     <message>
         <source>Files Shared with Me</source>
-        <translation>Files Shared with Me</translation>
+        <translation>Bestanden gedeeld met mij</translation>
     </message>
     <message>
         <source>Sync the files and folders others have shared with you.</source>
-        <translation>Sync the files and folders others have shared with you.</translation>
+        <translation>Synchroniseer de bestanden en mappen die anderen met u hebben gedeeld.</translation>
     </message>
     <message>
         <source>Choose a folder on the NAS and a folder on this computer.</source>
-        <translation>Choose a folder on the NAS and a folder on this computer.</translation>
+        <translation>Kies een map op de NAS en een map op deze computer.</translation>
     </message>
     <message>
         <source>This sync task belongs to a different NAS.</source>
-        <translation>This sync task belongs to a different NAS.</translation>
+        <translation>Deze synchronisatietaak hoort bij een andere NAS.</translation>
     </message>
     <message>
         <source>The NAS uses a protocol that this version of Nimbulo Pelora does not support.</source>
-        <translation>The NAS uses a protocol that this version of Nimbulo Pelora does not support.</translation>
+        <translation>De NAS gebruikt een protocol dat deze versie van Nimbulo Pelora niet ondersteunt.</translation>
     </message>
     <message>
         <source>The disk is full. Syncing has been paused.</source>
-        <translation>The disk is full. Syncing has been paused.</translation>
+        <translation>De schijf is vol. De synchronisatie is onderbroken.</translation>
     </message>
     <message>
         <source>Download changes from the NAS only</source>
-        <translation>Download changes from the NAS only</translation>
+        <translation>Alleen wijzigingen van de NAS downloaden</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be updated. Please try again later.</source>
-        <translation>Nimbulo Pelora could not be updated. Please try again later.</translation>
+        <translation>Nimbulo Pelora kan niet worden bijgewerkt. Probeer het later opnieuw.</translation>
     </message>
     <message>
         <source>You are already connected to this NAS.</source>
-        <translation>You are already connected to this NAS.</translation>
+        <translation>U bent al verbonden met deze NAS.</translation>
     </message>
     <message>
         <source>Changes on network drives may be detected with a delay.</source>
-        <translation>Changes on network drives may be detected with a delay.</translation>
+        <translation>Wijzigingen op netwerkstations worden mogelijk met vertraging gedetecteerd.</translation>
     </message>
     <message>
         <source>The SSL certificate of %1 has changed.</source>
-        <translation>The SSL certificate of %1 has changed.</translation>
+        <translation>Het SSL-certificaat van %1 is gewijzigd.</translation>
     </message>
     <message>
         <source>A secure connection to the server cannot be established.</source>
-        <translation>A secure connection to the server cannot be established.</translation>
+        <translation>Er kan geen beveiligde verbinding met de server worden gemaakt.</translation>
     </message>
     <message>
         <source>Welcome!</source>
-        <translation>Welcome!</translation>
+        <translation>Welkom!</translation>
     </message>
     <message>
         <source>Files in your home folder on the NAS are now in %1.</source>
-        <translation>Files in your home folder on the NAS are now in %1.</translation>
+        <translation>De bestanden in uw thuismap op de NAS staan nu in %1.</translation>
     </message>
     <message>
         <source>Files in your home folder on the server are now in %1.</source>
-        <translation>Files in your home folder on the server are now in %1.</translation>
+        <translation>De bestanden in uw thuismap op de server staan nu in %1.</translation>
     </message>
     <message>
         <source>The disk is full</source>
-        <translation>The disk is full</translation>
+        <translation>De schijf is vol</translation>
     </message>
     <message>
         <source>The server&apos;s sync service is outdated</source>
-        <translation>The server&apos;s sync service is outdated</translation>
+        <translation>De synchronisatieservice van de server is verouderd</translation>
     </message>
     <message>
         <source>The shared folder no longer exists.</source>
-        <translation>The shared folder no longer exists.</translation>
+        <translation>De gedeelde map bestaat niet meer.</translation>
     </message>
     <message>
         <source>Click to update to Nimbulo Pelora %1</source>
-        <translation>Click to update to Nimbulo Pelora %1</translation>
+        <translation>Klik om bij te werken naar Nimbulo Pelora %1</translation>
     </message>
     <message>
         <source>This version of Nimbulo Pelora is too old to connect to the server. Please update it.</source>
-        <translation>This version of Nimbulo Pelora is too old to connect to the server. Please update it.</translation>
+        <translation>Deze versie van Nimbulo Pelora is te oud om verbinding te maken met de server. Werk deze bij.</translation>
     </message>
 </context>
 </TS>
