@@ -5,139 +5,139 @@
     <name>global</name>
     <message>
         <source>Edit</source>
-        <translation>Edit</translation>
+        <translation>Rediger</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <translation>Unlink</translation>
+        <translation>Fjern tilknytning</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation>Add</translation>
+        <translation>Tilføj</translation>
     </message>
     <message>
         <source>Choose Another Folder</source>
-        <translation>Choose Another Folder</translation>
+        <translation>Vælg en anden mappe</translation>
     </message>
     <message>
         <source>Merge</source>
-        <translation>Merge</translation>
+        <translation>Flet</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation>Error</translation>
+        <translation>Fejl</translation>
     </message>
     <message>
         <source>A conflict occurred while syncing this file.</source>
-        <translation>A conflict occurred while syncing this file.</translation>
+        <translation>Der opstod en konflikt under synkroniseringen af denne fil.</translation>
     </message>
     <message>
         <source>Invalid parameter.</source>
-        <translation>Invalid parameter.</translation>
+        <translation>Ugyldig parameter.</translation>
     </message>
     <message>
         <source>A network error occurred. Please check your network connection and try again.</source>
-        <translation>A network error occurred. Please check your network connection and try again.</translation>
+        <translation>Der opstod en netværksfejl. Kontrollér netværksforbindelsen, og prøv igen.</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>Finish</translation>
+        <translation>Udfør</translation>
     </message>
     <message>
         <source>Local Storage</source>
-        <translation>Local Storage</translation>
+        <translation>Lokalt lager</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation>Reconnect</translation>
+        <translation>Opret forbindelse igen</translation>
     </message>
     <message>
         <source>About</source>
-        <translation>About</translation>
+        <translation>Om</translation>
     </message>
     <message>
         <source>Testing connection...</source>
-        <translation>Testing connection...</translation>
+        <translation>Tester forbindelsen...</translation>
     </message>
     <message>
         <source>The selected folder is not empty. Files in it will be merged with the files on the server.</source>
-        <translation>The selected folder is not empty. Files in it will be merged with the files on the server.</translation>
+        <translation>Den valgte mappe er ikke tom. Filerne i den flettes med filerne på serveren.</translation>
     </message>
     <message>
         <source>Checking your account...</source>
-        <translation>Checking your account...</translation>
+        <translation>Kontrollerer din konto...</translation>
     </message>
     <message>
         <source>Connected successfully.</source>
-        <translation>Connected successfully.</translation>
+        <translation>Forbindelsen er oprettet.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; already exists. Do you want to merge its contents?</source>
-        <translation>The folder &quot;%1&quot; already exists. Do you want to merge its contents?</translation>
+        <translation>Mappen &quot;%1&quot; findes allerede. Vil du flette dens indhold?</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora automatically when I log in</source>
-        <translation>Start Nimbulo Pelora automatically when I log in</translation>
+        <translation>Start Nimbulo Pelora automatisk, når jeg logger på</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Settings</translation>
+        <translation>Indstillinger</translation>
     </message>
     <message>
         <source>Incorrect username or password.</source>
-        <translation>Incorrect username or password.</translation>
+        <translation>Forkert brugernavn eller adgangskode.</translation>
     </message>
     <message>
         <source>Change Sync Folder</source>
-        <translation>Change Sync Folder</translation>
+        <translation>Skift synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Folder Not Empty</source>
-        <translation>Folder Not Empty</translation>
+        <translation>Mappen er ikke tom</translation>
     </message>
     <message>
         <source>Folder Path</source>
-        <translation>Folder Path</translation>
+        <translation>Mappesti</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation>ID</translation>
+        <translation>Id</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation>Name</translation>
+        <translation>Navn</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation>Value</translation>
+        <translation>Værdi</translation>
     </message>
     <message>
         <source>Get Started with Nimbulo Pelora</source>
-        <translation>Get Started with Nimbulo Pelora</translation>
+        <translation>Kom i gang med Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Afslut</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation>Pause</translation>
+        <translation>Sæt på pause</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation>Resume</translation>
+        <translation>Genoptag</translation>
     </message>
     <message>
         <source>Recently Updated Files</source>
-        <translation>Recently Updated Files</translation>
+        <translation>Senest opdaterede filer</translation>
     </message>
     <message>
         <source>Up to date</source>
-        <translation>Up to date</translation>
+        <translation>Opdateret</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation>Help</translation>
+        <translation>Hjælp</translation>
     </message>
     <message>
         <source>OK</source>
@@ -145,19 +145,19 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation>Delete</translation>
+        <translation>Slet</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation>Back</translation>
+        <translation>Tilbage</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation>Next</translation>
+        <translation>Næste</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Cancel</translation>
+        <translation>Annuller</translation>
     </message>
     <message>
         <source>Version</source>
@@ -165,39 +165,39 @@
     </message>
     <message>
         <source>Open Nimbulo Pelora</source>
-        <translation>Open Nimbulo Pelora</translation>
+        <translation>Åbn Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Detecting changes...</source>
-        <translation>Detecting changes...</translation>
+        <translation>Registrerer ændringer...</translation>
     </message>
     <message>
         <source>Disconnected from the server.</source>
-        <translation>Disconnected from the server.</translation>
+        <translation>Forbindelsen til serveren er afbrudt.</translation>
     </message>
     <message>
         <source>Enable Sync</source>
-        <translation>Enable Sync</translation>
+        <translation>Aktivér synkronisering</translation>
     </message>
     <message>
         <source>Authentication failed</source>
-        <translation>Authentication failed</translation>
+        <translation>Godkendelsen mislykkedes</translation>
     </message>
     <message>
         <source>Direct connection</source>
-        <translation>Direct connection</translation>
+        <translation>Direkte forbindelse</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation>Local network</translation>
+        <translation>Lokalt netværk</translation>
     </message>
     <message>
         <source>Checking connection...</source>
-        <translation>Checking connection...</translation>
+        <translation>Kontrollerer forbindelsen...</translation>
     </message>
     <message>
         <source>Relay connection</source>
-        <translation>Relay connection</translation>
+        <translation>Relæforbindelse</translation>
     </message>
     <message>
         <source>Internet</source>
@@ -205,111 +205,111 @@
     </message>
     <message>
         <source>Unable to connect automatically because of a system error.</source>
-        <translation>Unable to connect automatically because of a system error.</translation>
+        <translation>Der kunne ikke oprettes forbindelse automatisk på grund af en systemfejl.</translation>
     </message>
     <message>
         <source>Sharing links are disabled on the server. Please contact your administrator.</source>
-        <translation>Sharing links are disabled on the server. Please contact your administrator.</translation>
+        <translation>Delingslinks er deaktiveret på serveren. Kontakt din administrator.</translation>
     </message>
     <message>
         <source>%1 files updated</source>
-        <translation>%1 files updated</translation>
+        <translation>%1 filer opdateret</translation>
     </message>
     <message>
         <source>You have read-only permission for this folder. Local changes will not be uploaded.</source>
-        <translation>You have read-only permission for this folder. Local changes will not be uploaded.</translation>
+        <translation>Du har kun læseadgang til denne mappe. Lokale ændringer bliver ikke uploadet.</translation>
     </message>
     <message>
         <source>Your storage quota on the server is full. Free up some space to continue syncing.</source>
-        <translation>Your storage quota on the server is full. Free up some space to continue syncing.</translation>
+        <translation>Din lagerkvote på serveren er opbrugt. Frigør plads for at fortsætte synkroniseringen.</translation>
     </message>
     <message>
         <source>Connection Type</source>
-        <translation>Connection Type</translation>
+        <translation>Forbindelsestype</translation>
     </message>
     <message>
         <source>Connection Information</source>
-        <translation>Connection Information</translation>
+        <translation>Forbindelsesoplysninger</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation>Change</translation>
+        <translation>Skift</translation>
     </message>
     <message>
         <source>Please select a folder.</source>
-        <translation>Please select a folder.</translation>
+        <translation>Vælg en mappe.</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation>Information</translation>
+        <translation>Oplysninger</translation>
     </message>
     <message>
         <source>Unable to connect automatically. Please check the server address and try again.</source>
-        <translation>Unable to connect automatically. Please check the server address and try again.</translation>
+        <translation>Der kunne ikke oprettes forbindelse automatisk. Kontrollér serveradressen, og prøv igen.</translation>
     </message>
     <message>
         <source>Shared Folders</source>
-        <translation>Shared Folders</translation>
+        <translation>Delte mapper</translation>
     </message>
     <message>
         <source>Your changes have not been saved. Do you want to discard them?</source>
-        <translation>Your changes have not been saved. Do you want to discard them?</translation>
+        <translation>Dine ændringer er ikke gemt. Vil du kassere dem?</translation>
     </message>
     <message>
         <source>Quota full</source>
-        <translation>Quota full</translation>
+        <translation>Kvoten er opbrugt</translation>
     </message>
     <message>
         <source>Local Folder</source>
-        <translation>Local Folder</translation>
+        <translation>Lokal mappe</translation>
     </message>
     <message>
         <source>Unable to enable syncing for this shared folder.</source>
-        <translation>Unable to enable syncing for this shared folder.</translation>
+        <translation>Synkronisering kunne ikke aktiveres for denne delte mappe.</translation>
     </message>
     <message>
         <source>This folder conflicts with another sync task.</source>
-        <translation>This folder conflicts with another sync task.</translation>
+        <translation>Mappen er i konflikt med en anden synkroniseringsopgave.</translation>
     </message>
     <message>
         <source>You have reached the maximum number of synced shared folders.</source>
-        <translation>You have reached the maximum number of synced shared folders.</translation>
+        <translation>Du har nået det maksimale antal synkroniserede delte mapper.</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation>Applying settings...</translation>
+        <translation>Anvender indstillinger...</translation>
     </message>
     <message>
         <source>Please enter a port number between 1 and 65535.</source>
-        <translation>Please enter a port number between 1 and 65535.</translation>
+        <translation>Angiv et portnummer mellem 1 og 65535.</translation>
     </message>
     <message>
         <source>Shared Folder</source>
-        <translation>Shared Folder</translation>
+        <translation>Delt mappe</translation>
     </message>
     <message>
         <source>Please enter the proxy server address and port.</source>
-        <translation>Please enter the proxy server address and port.</translation>
+        <translation>Angiv proxyserverens adresse og port.</translation>
     </message>
     <message>
         <source>Please enter your username.</source>
-        <translation>Please enter your username.</translation>
+        <translation>Angiv dit brugernavn.</translation>
     </message>
     <message>
         <source>Manual proxy configuration</source>
-        <translation>Manual proxy configuration</translation>
+        <translation>Manuel proxykonfiguration</translation>
     </message>
     <message>
         <source>No proxy</source>
-        <translation>No proxy</translation>
+        <translation>Ingen proxy</translation>
     </message>
     <message>
         <source>Use system proxy settings</source>
-        <translation>Use system proxy settings</translation>
+        <translation>Brug systemets proxyindstillinger</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation>Password</translation>
+        <translation>Adgangskode</translation>
     </message>
     <message>
         <source>Port</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>No changes to apply.</source>
-        <translation>No changes to apply.</translation>
+        <translation>Der er ingen ændringer at anvende.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -329,211 +329,211 @@
     </message>
     <message>
         <source>Username</source>
-        <translation>Username</translation>
+        <translation>Brugernavn</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation>Apply</translation>
+        <translation>Anvend</translation>
     </message>
     <message>
         <source>Proxy server requires authentication</source>
-        <translation>Proxy server requires authentication</translation>
+        <translation>Proxyserveren kræver godkendelse</translation>
     </message>
     <message>
         <source>Updating files...</source>
-        <translation>Updating files...</translation>
+        <translation>Opdaterer filer...</translation>
     </message>
     <message>
         <source>Conflicting changes are kept in both copies: the local copy is renamed with the computer name.</source>
-        <translation>Conflicting changes are kept in both copies: the local copy is renamed with the computer name.</translation>
+        <translation>Modstridende ændringer bevares i begge kopier: den lokale kopi omdøbes med computerens navn.</translation>
     </message>
     <message>
         <source>Server Address</source>
-        <translation>Server Address</translation>
+        <translation>Serveradresse</translation>
     </message>
     <message>
         <source>Enter the server&apos;s IP address, host name or relay ID.</source>
-        <translation>Enter the server&apos;s IP address, host name or relay ID.</translation>
+        <translation>Angiv serverens IP-adresse, værtsnavn eller relæ-id.</translation>
     </message>
     <message>
         <source>The server&apos;s sync service is outdated. Please ask your administrator to update it.</source>
-        <translation>The server&apos;s sync service is outdated. Please ask your administrator to update it.</translation>
+        <translation>Synkroniseringstjenesten på serveren er forældet. Bed din administrator om at opdatere den.</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
-        <translation>Show desktop notifications</translation>
+        <translation>Vis skrivebordsmeddelelser</translation>
     </message>
     <message>
         <source>Show sync status on file icons</source>
-        <translation>Show sync status on file icons</translation>
+        <translation>Vis synkroniseringsstatus på filikoner</translation>
     </message>
     <message>
         <source>Encrypt the connection with SSL</source>
-        <translation>Encrypt the connection with SSL</translation>
+        <translation>Kryptér forbindelsen med SSL</translation>
     </message>
     <message>
         <source>General</source>
-        <translation>General</translation>
+        <translation>Generelt</translation>
     </message>
     <message>
         <source>Use a monochrome tray icon</source>
-        <translation>Use a monochrome tray icon</translation>
+        <translation>Brug et ensfarvet ikon i meddelelsesområdet</translation>
     </message>
     <message>
         <source>Sync problem</source>
-        <translation>Sync problem</translation>
+        <translation>Synkroniseringsproblem</translation>
     </message>
     <message>
         <source>%1 has shared &quot;%2&quot; with you.</source>
-        <translation>%1 has shared &quot;%2&quot; with you.</translation>
+        <translation>%1 har delt &quot;%2&quot; med dig.</translation>
     </message>
     <message>
         <source>New shared folder</source>
-        <translation>New shared folder</translation>
+        <translation>Ny delt mappe</translation>
     </message>
     <message>
         <source>Checking files...</source>
-        <translation>Checking files...</translation>
+        <translation>Kontrollerer filer...</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation>Continue</translation>
+        <translation>Fortsæt</translation>
     </message>
     <message>
         <source>Selective Sync</source>
-        <translation>Selective Sync</translation>
+        <translation>Selektiv synkronisering</translation>
     </message>
     <message>
         <source>Files and folders matching these rules will not be synced.</source>
-        <translation>Files and folders matching these rules will not be synced.</translation>
+        <translation>Filer og mapper, der matcher disse regler, bliver ikke synkroniseret.</translation>
     </message>
     <message>
         <source>File extensions:</source>
-        <translation>File extensions:</translation>
+        <translation>Filtypenavne:</translation>
     </message>
     <message>
         <source>Updating Nimbulo Pelora...</source>
-        <translation>Updating Nimbulo Pelora...</translation>
+        <translation>Opdaterer Nimbulo Pelora...</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation>Update</translation>
+        <translation>Opdater</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%1 of %2</translation>
+        <translation>%1 af %2</translation>
     </message>
     <message>
         <source>Are you sure you want to stop syncing &quot;%1&quot;?</source>
-        <translation>Are you sure you want to stop syncing &quot;%1&quot;?</translation>
+        <translation>Er du sikker på, at du vil stoppe synkroniseringen af &quot;%1&quot;?</translation>
     </message>
     <message>
         <source>Sharing disabled</source>
-        <translation>Sharing disabled</translation>
+        <translation>Deling er deaktiveret</translation>
     </message>
     <message>
         <source>Mount point not supported</source>
-        <translation>Mount point not supported</translation>
+        <translation>Monteringspunkt understøttes ikke</translation>
     </message>
     <message>
         <source>Unable to remove this sync task.</source>
-        <translation>Unable to remove this sync task.</translation>
+        <translation>Synkroniseringsopgaven kunne ikke fjernes.</translation>
     </message>
     <message>
         <source>The new language will be applied after Nimbulo Pelora restarts.</source>
-        <translation>The new language will be applied after Nimbulo Pelora restarts.</translation>
+        <translation>Det nye sprog anvendes, når Nimbulo Pelora genstartes.</translation>
     </message>
     <message>
         <source>The local disk is full. Free up some space to continue syncing.</source>
-        <translation>The local disk is full. Free up some space to continue syncing.</translation>
+        <translation>Den lokale disk er fuld. Frigør plads for at fortsætte synkroniseringen.</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink from this server? Your local files will be kept.</source>
-        <translation>Are you sure you want to unlink from this server? Your local files will be kept.</translation>
+        <translation>Er du sikker på, at du vil fjerne tilknytningen til denne server? Dine lokale filer bevares.</translation>
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Preparing...</translation>
+        <translation>Forbereder...</translation>
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Uploading...</translation>
+        <translation>Uploader...</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation>System default</translation>
+        <translation>Systemstandard</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation>Language:</translation>
+        <translation>Sprog:</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Loading...</translation>
+        <translation>Indlæser...</translation>
     </message>
     <message>
         <source>Syncing %1 files</source>
-        <translation>Syncing %1 files</translation>
+        <translation>Synkroniserer %1 filer</translation>
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Downloading...</translation>
+        <translation>Downloader...</translation>
     </message>
     <message>
         <source>Advanced Settings</source>
-        <translation>Advanced Settings</translation>
+        <translation>Avancerede indstillinger</translation>
     </message>
     <message>
         <source>File names:</source>
-        <translation>File names:</translation>
+        <translation>Filnavne:</translation>
     </message>
     <message>
         <source>Blocked Files</source>
-        <translation>Blocked Files</translation>
+        <translation>Blokerede filer</translation>
     </message>
     <message>
         <source>The local sync database is damaged. Please relink this sync task.</source>
-        <translation>The local sync database is damaged. Please relink this sync task.</translation>
+        <translation>Den lokale synkroniseringsdatabase er beskadiget. Tilknyt denne synkroniseringsopgave igen.</translation>
     </message>
     <message>
         <source>Maximum file size:</source>
-        <translation>Maximum file size:</translation>
+        <translation>Maksimal filstørrelse:</translation>
     </message>
     <message>
         <source>Filter files</source>
-        <translation>Filter files</translation>
+        <translation>Filtrer filer</translation>
     </message>
     <message>
         <source>Folder Name</source>
-        <translation>Folder Name</translation>
+        <translation>Mappenavn</translation>
     </message>
     <message>
         <source>Excluded file types:</source>
-        <translation>Excluded file types:</translation>
+        <translation>Udelukkede filtyper:</translation>
     </message>
     <message>
         <source>Folders you unselect will be removed from this computer but kept on the server.</source>
-        <translation>Folders you unselect will be removed from this computer but kept on the server.</translation>
+        <translation>Mapper, som du fravælger, fjernes fra denne computer, men bevares på serveren.</translation>
     </message>
     <message>
         <source>Merge mode</source>
-        <translation>Merge mode</translation>
+        <translation>Fletningstilstand</translation>
     </message>
     <message>
         <source>Sync Mode</source>
-        <translation>Sync Mode</translation>
+        <translation>Synkroniseringstilstand</translation>
     </message>
     <message>
         <source>Edit Connection</source>
-        <translation>Edit Connection</translation>
+        <translation>Rediger forbindelse</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation>Paused</translation>
+        <translation>Sat på pause</translation>
     </message>
     <message>
         <source>A mount point cannot be used as a sync folder.</source>
-        <translation>A mount point cannot be used as a sync folder.</translation>
+        <translation>Et monteringspunkt kan ikke bruges som synkroniseringsmappe.</translation>
     </message>
     <message>
         <source>Destination</source>
@@ -541,179 +541,179 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>Time</translation>
+        <translation>Tidspunkt</translation>
     </message>
     <message>
         <source>The download was cancelled.</source>
-        <translation>The download was cancelled.</translation>
+        <translation>Downloaden blev annulleret.</translation>
     </message>
     <message>
         <source>Start Now</source>
-        <translation>Start Now</translation>
+        <translation>Start nu</translation>
     </message>
     <message>
         <source>You do not have permission to perform this operation.</source>
-        <translation>You do not have permission to perform this operation.</translation>
+        <translation>Du har ikke tilladelse til at udføre denne handling.</translation>
     </message>
     <message>
         <source>Manage</source>
-        <translation>Manage</translation>
+        <translation>Administrer</translation>
     </message>
     <message>
         <source>Your storage quota is full</source>
-        <translation>Your storage quota is full</translation>
+        <translation>Din lagerkvote er opbrugt</translation>
     </message>
     <message>
         <source>The local disk is full</source>
-        <translation>The local disk is full</translation>
+        <translation>Den lokale disk er fuld</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation>Permission denied</translation>
+        <translation>Adgang nægtet</translation>
     </message>
     <message>
         <source>Version mismatch</source>
-        <translation>Version mismatch</translation>
+        <translation>Versionerne passer ikke sammen</translation>
     </message>
     <message>
         <source>Unable to get your account information from the server.</source>
-        <translation>Unable to get your account information from the server.</translation>
+        <translation>Dine kontooplysninger kunne ikke hentes fra serveren.</translation>
     </message>
     <message>
         <source>Sync problem detected</source>
-        <translation>Sync problem detected</translation>
+        <translation>Der er registreret et synkroniseringsproblem</translation>
     </message>
     <message>
         <source>Computer Name</source>
-        <translation>Computer Name</translation>
+        <translation>Computernavn</translation>
     </message>
     <message>
         <source>The connection is unstable. Retrying...</source>
-        <translation>The connection is unstable. Retrying...</translation>
+        <translation>Forbindelsen er ustabil. Prøver igen...</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>Downloading %1...</translation>
+        <translation>Downloader %1...</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation>Connecting...</translation>
+        <translation>Opretter forbindelse...</translation>
     </message>
     <message>
         <source>Retrying sync...</source>
-        <translation>Retrying sync...</translation>
+        <translation>Prøver at synkronisere igen...</translation>
     </message>
     <message>
         <source>Security Warning</source>
-        <translation>Security Warning</translation>
+        <translation>Sikkerhedsadvarsel</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation>Enabled</translation>
+        <translation>Aktiveret</translation>
     </message>
     <message>
         <source>Download completed.</source>
-        <translation>Download completed.</translation>
+        <translation>Downloaden er fuldført.</translation>
     </message>
     <message>
         <source>Continue Anyway</source>
-        <translation>Continue Anyway</translation>
+        <translation>Fortsæt alligevel</translation>
     </message>
     <message>
         <source>Filter Rules</source>
-        <translation>Filter Rules</translation>
+        <translation>Filterregler</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation>Action</translation>
+        <translation>Handling</translation>
     </message>
     <message>
         <source>File Name</source>
-        <translation>File Name</translation>
+        <translation>Filnavn</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation>Size</translation>
+        <translation>Størrelse</translation>
     </message>
     <message>
         <source>No.</source>
-        <translation>No.</translation>
+        <translation>Nr.</translation>
     </message>
     <message>
         <source>Browse Previous Versions</source>
-        <translation>Browse Previous Versions</translation>
+        <translation>Gennemse tidligere versioner</translation>
     </message>
     <message>
         <source>Disabled</source>
-        <translation>Disabled</translation>
+        <translation>Deaktiveret</translation>
     </message>
     <message>
         <source>Stopping sync for &quot;%1&quot; will remove its local copy. Continue?</source>
-        <translation>Stopping sync for &quot;%1&quot; will remove its local copy. Continue?</translation>
+        <translation>Hvis du stopper synkroniseringen af &quot;%1&quot;, fjernes den lokale kopi. Vil du fortsætte?</translation>
     </message>
     <message>
         <source>Secure Connection</source>
-        <translation>Secure Connection</translation>
+        <translation>Sikker forbindelse</translation>
     </message>
     <message>
         <source>Choose the folder on this computer where your files will be synced.</source>
-        <translation>Choose the folder on this computer where your files will be synced.</translation>
+        <translation>Vælg den mappe på denne computer, som dine filer skal synkroniseres til.</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation>and %1 more</translation>
+        <translation>og %1 mere</translation>
     </message>
     <message>
         <source>Sharing</source>
-        <translation>Sharing</translation>
+        <translation>Deling</translation>
     </message>
     <message>
         <source>Unable to download the file.</source>
-        <translation>Unable to download the file.</translation>
+        <translation>Filen kunne ikke downloades.</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation>Overview</translation>
+        <translation>Oversigt</translation>
     </message>
     <message>
         <source>The server has been replaced or reset</source>
-        <translation>The server has been replaced or reset</translation>
+        <translation>Serveren er blevet udskiftet eller nulstillet</translation>
     </message>
     <message>
         <source>Certificate verification failed</source>
-        <translation>Certificate verification failed</translation>
+        <translation>Certifikatet kunne ikke bekræftes</translation>
     </message>
     <message>
         <source>Syncing...</source>
-        <translation>Syncing...</translation>
+        <translation>Synkroniserer...</translation>
     </message>
     <message>
         <source>The server&apos;s SSL certificate could not be verified. The connection may not be secure.</source>
-        <translation>The server&apos;s SSL certificate could not be verified. The connection may not be secure.</translation>
+        <translation>Serverens SSL-certifikat kunne ikke bekræftes. Forbindelsen er muligvis ikke sikker.</translation>
     </message>
     <message>
         <source>Finished</source>
-        <translation>Finished</translation>
+        <translation>Fuldført</translation>
     </message>
     <message>
         <source>This sync task is inactive. Click to resume it.</source>
-        <translation>This sync task is inactive. Click to resume it.</translation>
+        <translation>Denne synkroniseringsopgave er inaktiv. Klik for at genoptage den.</translation>
     </message>
     <message>
         <source>Inactive</source>
-        <translation>Inactive</translation>
+        <translation>Inaktiv</translation>
     </message>
     <message>
         <source>This file cannot be downloaded right now.</source>
-        <translation>This file cannot be downloaded right now.</translation>
+        <translation>Filen kan ikke downloades lige nu.</translation>
     </message>
     <message>
         <source>Unable to list the previous versions of this file.</source>
-        <translation>Unable to list the previous versions of this file.</translation>
+        <translation>De tidligere versioner af denne fil kunne ikke vises.</translation>
     </message>
     <message>
         <source>Unable to create a sharing link for this file.</source>
-        <translation>Unable to create a sharing link for this file.</translation>
+        <translation>Der kunne ikke oprettes et delingslink til denne fil.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -721,583 +721,583 @@
     </message>
     <message>
         <source>Double-click the tray icon to open the sync folder</source>
-        <translation>Double-click the tray icon to open the sync folder</translation>
+        <translation>Dobbeltklik på ikonet i meddelelsesområdet for at åbne synkroniseringsmappen</translation>
     </message>
     <message>
         <source>Indexing folder...</source>
-        <translation>Indexing folder...</translation>
+        <translation>Indekserer mappe...</translation>
     </message>
     <message>
         <source>Welcome to the Nimbulo Pelora Setup Wizard</source>
-        <translation>Welcome to the Nimbulo Pelora Setup Wizard</translation>
+        <translation>Velkommen til installationsguiden til Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be initialized.</source>
-        <translation>Nimbulo Pelora could not be initialized.</translation>
+        <translation>Nimbulo Pelora kunne ikke initialiseres.</translation>
     </message>
     <message>
         <source>&lt; Back</source>
-        <translation>&lt; Back</translation>
+        <translation>&lt; Tilbage</translation>
     </message>
     <message>
         <source>Ready to Install Nimbulo Pelora</source>
-        <translation>Ready to Install Nimbulo Pelora</translation>
+        <translation>Klar til at installere Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
-        <translation>Some files that need to be updated are currently in use.</translation>
+        <translation>Nogle af de filer, der skal opdateres, er i brug.</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation>Yes</translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>End-User License Agreement</source>
-        <translation>End-User License Agreement</translation>
+        <translation>Slutbrugerlicensaftale</translation>
     </message>
     <message>
         <source>Completed the Nimbulo Pelora Setup Wizard</source>
-        <translation>Completed the Nimbulo Pelora Setup Wizard</translation>
+        <translation>Installationsguiden til Nimbulo Pelora er fuldført</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation>Print</translation>
+        <translation>Udskriv</translation>
     </message>
     <message>
         <source>Do not close applications. A reboot will be required.</source>
-        <translation>Do not close applications. A reboot will be required.</translation>
+        <translation>Luk ikke programmerne. Det vil være nødvendigt at genstarte computeren.</translation>
     </message>
     <message>
         <source>Setup Error</source>
-        <translation>Setup Error</translation>
+        <translation>Installationsfejl</translation>
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation>Click the Finish button to exit the Setup Wizard.</translation>
+        <translation>Klik på Udfør for at afslutte installationsguiden.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been installed successfully.</source>
-        <translation>Nimbulo Pelora has been installed successfully.</translation>
+        <translation>Nimbulo Pelora er installeret.</translation>
     </message>
     <message>
         <source>Launch Nimbulo Pelora</source>
-        <translation>Launch Nimbulo Pelora</translation>
+        <translation>Start Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Change, repair, or remove installation</source>
-        <translation>Change, repair, or remove installation</translation>
+        <translation>Rediger, reparer eller fjern installationen</translation>
     </message>
     <message>
         <source>Lets you change the way features are installed.</source>
-        <translation>Lets you change the way features are installed.</translation>
+        <translation>Giver dig mulighed for at ændre, hvordan funktionerne installeres.</translation>
     </message>
     <message>
         <source>The sync folder is on a volume that is not mounted.</source>
-        <translation>The sync folder is on a volume that is not mounted.</translation>
+        <translation>Synkroniseringsmappen ligger på et drev, der ikke er monteret.</translation>
     </message>
     <message>
         <source>The file version is invalid.</source>
-        <translation>The file version is invalid.</translation>
+        <translation>Filversionen er ugyldig.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation>Remove</translation>
+        <translation>Fjern</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the Nimbulo Pelora installation?</source>
-        <translation>Are you sure you want to cancel the Nimbulo Pelora installation?</translation>
+        <translation>Er du sikker på, at du vil annullere installationen af Nimbulo Pelora?</translation>
     </message>
     <message>
         <source>Download only</source>
-        <translation>Download only</translation>
+        <translation>Kun download</translation>
     </message>
     <message>
         <source>You have read-only access to this folder. Changes you make here are not uploaded.</source>
-        <translation>You have read-only access to this folder. Changes you make here are not uploaded.</translation>
+        <translation>Du har kun læseadgang til denne mappe. De ændringer, du foretager her, uploades ikke.</translation>
     </message>
     <message>
         <source>Please read the following license agreement carefully.</source>
-        <translation>Please read the following license agreement carefully.</translation>
+        <translation>Læs følgende licensaftale omhyggeligt.</translation>
     </message>
     <message>
         <source>Please read the license agreement and accept it to continue.</source>
-        <translation>Please read the license agreement and accept it to continue.</translation>
+        <translation>Læs licensaftalen, og accepter den for at fortsætte.</translation>
     </message>
     <message>
         <source>Cancel Setup</source>
-        <translation>Cancel Setup</translation>
+        <translation>Annuller installationen</translation>
     </message>
     <message>
         <source>Nimbulo Pelora keeps the files on this computer in sync with your NAS.</source>
-        <translation>Nimbulo Pelora keeps the files on this computer in sync with your NAS.</translation>
+        <translation>Nimbulo Pelora holder filerne på denne computer synkroniseret med din NAS.</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation>Ignore</translation>
+        <translation>Ignorer</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation>Install</translation>
+        <translation>Installer</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation>Read-only</translation>
+        <translation>Skrivebeskyttet</translation>
     </message>
     <message>
         <source>Next &gt;</source>
-        <translation>Next &gt;</translation>
+        <translation>Næste &gt;</translation>
     </message>
     <message>
         <source>No</source>
-        <translation>No</translation>
+        <translation>Nej</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation>Repair</translation>
+        <translation>Reparer</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation>Retry</translation>
+        <translation>Prøv igen</translation>
     </message>
     <message>
         <source>Sync Status</source>
-        <translation>Sync Status</translation>
+        <translation>Synkroniseringsstatus</translation>
     </message>
     <message>
         <source>The local sync folder &quot;%1&quot; cannot be found. It may have been moved or deleted.</source>
-        <translation>The local sync folder &quot;%1&quot; cannot be found. It may have been moved or deleted.</translation>
+        <translation>Den lokale synkroniseringsmappe &quot;%1&quot; blev ikke fundet. Den er muligvis blevet flyttet eller slettet.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora Setup ended prematurely because of an error. Your system has not been modified.</source>
-        <translation>Nimbulo Pelora Setup ended prematurely because of an error. Your system has not been modified.</translation>
+        <translation>Installationen af Nimbulo Pelora blev afbrudt for tidligt på grund af en fejl. Der er ikke foretaget ændringer på systemet.</translation>
     </message>
     <message>
         <source>To install this program at a later time, run the Setup Wizard again. Click Finish to exit.</source>
-        <translation>To install this program at a later time, run the Setup Wizard again. Click Finish to exit.</translation>
+        <translation>Hvis du vil installere programmet senere, skal du køre installationsguiden igen. Klik på Udfør for at afslutte.</translation>
     </message>
     <message>
         <source>Setup Ended Prematurely</source>
-        <translation>Setup Ended Prematurely</translation>
+        <translation>Installationen blev afbrudt for tidligt</translation>
     </message>
     <message>
         <source>Close all applications and try to restart them.</source>
-        <translation>Close all applications and try to restart them.</translation>
+        <translation>Luk alle programmer, og forsøg at genstarte dem.</translation>
     </message>
     <message>
         <source>Close the applications that use files Setup needs to update.</source>
-        <translation>Close the applications that use files Setup needs to update.</translation>
+        <translation>Luk de programmer, der bruger filer, som installationsprogrammet skal opdatere.</translation>
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</source>
-        <translation>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</translation>
+        <translation>Følgende programmer bruger filer, som installationsprogrammet skal opdatere. Luk dem, og klik på Prøv igen for at fortsætte.</translation>
     </message>
     <message>
         <source>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts and registry entries.</source>
-        <translation>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts and registry entries.</translation>
+        <translation>Reparerer fejl i den seneste installation ved at rette manglende og beskadigede filer, genveje og poster i registreringsdatabasen.</translation>
     </message>
     <message>
         <source>The following applications are using files that need to be updated.\nClose them, or let Setup close them and attempt to restart them.</source>
-        <translation>The following applications are using files that need to be updated.\nClose them, or let Setup close them and attempt to restart them.</translation>
+        <translation>Følgende programmer bruger filer, der skal opdateres.\nLuk dem, eller lad installationsprogrammet lukke dem og forsøge at genstarte dem.</translation>
     </message>
     <message>
         <source>Files in Use</source>
-        <translation>Files in Use</translation>
+        <translation>Filer i brug</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has no independent features to select.</source>
-        <translation>Nimbulo Pelora has no independent features to select.</translation>
+        <translation>Nimbulo Pelora har ingen uafhængige funktioner, der kan vælges.</translation>
     </message>
     <message>
         <source>Change the installed features</source>
-        <translation>Change the installed features</translation>
+        <translation>Rediger de installerede funktioner</translation>
     </message>
     <message>
         <source>Select the operation you wish to perform.</source>
-        <translation>Select the operation you wish to perform.</translation>
+        <translation>Vælg den handling, du vil udføre.</translation>
     </message>
     <message>
         <source>Removes Nimbulo Pelora from your computer.</source>
-        <translation>Removes Nimbulo Pelora from your computer.</translation>
+        <translation>Fjerner Nimbulo Pelora fra computeren.</translation>
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation>Remove the installation</translation>
+        <translation>Fjern installationen</translation>
     </message>
     <message>
         <source>Repair the installation</source>
-        <translation>Repair the installation</translation>
+        <translation>Reparer installationen</translation>
     </message>
     <message>
         <source>Select the operation you wish to perform.\nYour sync settings are kept.</source>
-        <translation>Select the operation you wish to perform.\nYour sync settings are kept.</translation>
+        <translation>Vælg den handling, du vil udføre.\nDine synkroniseringsindstillinger bevares.</translation>
     </message>
     <message>
         <source>The Setup Wizard allows you to change the way Nimbulo Pelora is installed, repair it, or remove it from your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>The Setup Wizard allows you to change the way Nimbulo Pelora is installed, repair it, or remove it from your computer. Click Next to continue or Cancel to exit.</translation>
+        <translation>Med installationsguiden kan du ændre, hvordan Nimbulo Pelora er installeret, reparere programmet eller fjerne det fra computeren. Klik på Næste for at fortsætte eller på Annuller for at afslutte.</translation>
     </message>
     <message>
         <source>Welcome to Nimbulo Pelora Setup</source>
-        <translation>Welcome to Nimbulo Pelora Setup</translation>
+        <translation>Velkommen til installationen af Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Nimbulo Pelora.</source>
-        <translation>Please wait while the Setup Wizard installs Nimbulo Pelora.</translation>
+        <translation>Vent, mens installationsguiden installerer Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>This may take a few minutes.</source>
-        <translation>This may take a few minutes.</translation>
+        <translation>Dette kan tage nogle minutter.</translation>
     </message>
     <message>
         <source>Installing Nimbulo Pelora...</source>
-        <translation>Installing Nimbulo Pelora...</translation>
+        <translation>Installerer Nimbulo Pelora...</translation>
     </message>
     <message>
         <source>Installing Nimbulo Pelora</source>
-        <translation>Installing Nimbulo Pelora</translation>
+        <translation>Installerer Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</translation>
+        <translation>Klik på Installer for at starte installationen. Klik på Tilbage for at gennemse eller ændre installationsindstillingerne. Klik på Annuller for at afslutte guiden.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the installation.</source>
-        <translation>The Setup Wizard is ready to begin the installation.</translation>
+        <translation>Installationsguiden er klar til at starte installationen.</translation>
     </message>
     <message>
         <source>Click Install to begin.</source>
-        <translation>Click Install to begin.</translation>
+        <translation>Klik på Installer for at starte.</translation>
     </message>
     <message>
         <source>Click Remove to remove Nimbulo Pelora from your computer. Your synced files are kept.</source>
-        <translation>Click Remove to remove Nimbulo Pelora from your computer. Your synced files are kept.</translation>
+        <translation>Klik på Fjern for at fjerne Nimbulo Pelora fra computeren. Dine synkroniserede filer bevares.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to remove Nimbulo Pelora.</source>
-        <translation>The Setup Wizard is ready to remove Nimbulo Pelora.</translation>
+        <translation>Installationsguiden er klar til at fjerne Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Click Remove to begin.</source>
-        <translation>Click Remove to begin.</translation>
+        <translation>Klik på Fjern for at starte.</translation>
     </message>
     <message>
         <source>Remove Nimbulo Pelora</source>
-        <translation>Remove Nimbulo Pelora</translation>
+        <translation>Fjern Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of Nimbulo Pelora.</source>
-        <translation>Click Repair to repair the installation of Nimbulo Pelora.</translation>
+        <translation>Klik på Reparer for at reparere installationen af Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to repair Nimbulo Pelora.</source>
-        <translation>The Setup Wizard is ready to repair Nimbulo Pelora.</translation>
+        <translation>Installationsguiden er klar til at reparere Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Click Repair to begin.</source>
-        <translation>Click Repair to begin.</translation>
+        <translation>Klik på Reparer for at starte.</translation>
     </message>
     <message>
         <source>Repair Nimbulo Pelora</source>
-        <translation>Repair Nimbulo Pelora</translation>
+        <translation>Reparer Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Nimbulo Pelora Setup was interrupted. Your system has not been modified.</source>
-        <translation>Nimbulo Pelora Setup was interrupted. Your system has not been modified.</translation>
+        <translation>Installationen af Nimbulo Pelora blev afbrudt. Der er ikke foretaget ændringer på systemet.</translation>
     </message>
     <message>
         <source>To install this program at a later time, run the installation again. Click Finish to exit the wizard.</source>
-        <translation>To install this program at a later time, run the installation again. Click Finish to exit the wizard.</translation>
+        <translation>Hvis du vil installere programmet senere, skal du køre installationen igen. Klik på Udfør for at afslutte guiden.</translation>
     </message>
     <message>
         <source>Setup Interrupted</source>
-        <translation>Setup Interrupted</translation>
+        <translation>Installationen blev afbrudt</translation>
     </message>
     <message>
         <source>The Setup Wizard will install Nimbulo Pelora on your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>The Setup Wizard will install Nimbulo Pelora on your computer. Click Next to continue or Cancel to exit.</translation>
+        <translation>Installationsguiden installerer Nimbulo Pelora på computeren. Klik på Næste for at fortsætte eller på Annuller for at afslutte.</translation>
     </message>
     <message>
         <source>Change, repair or remove Nimbulo Pelora.</source>
-        <translation>Change, repair or remove Nimbulo Pelora.</translation>
+        <translation>Rediger, reparer eller fjern Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Setup has finished.</source>
-        <translation>Setup has finished.</translation>
+        <translation>Installationen er fuldført.</translation>
     </message>
     <message>
         <source>Setup was cancelled.</source>
-        <translation>Setup was cancelled.</translation>
+        <translation>Installationen blev annulleret.</translation>
     </message>
     <message>
         <source>An error occurred during setup.</source>
-        <translation>An error occurred during setup.</translation>
+        <translation>Der opstod en fejl under installationen.</translation>
     </message>
     <message>
         <source>This wizard guides you through the installation.</source>
-        <translation>This wizard guides you through the installation.</translation>
+        <translation>Denne guide fører dig gennem installationen.</translation>
     </message>
     <message>
         <source>I accept the terms in the License Agreement</source>
-        <translation>I accept the terms in the License Agreement</translation>
+        <translation>Jeg accepterer betingelserne i licensaftalen</translation>
     </message>
     <message>
         <source>Connect to Another NAS</source>
-        <translation>Connect to Another NAS</translation>
+        <translation>Opret forbindelse til en anden NAS</translation>
     </message>
     <message>
         <source>Sync History</source>
-        <translation>Sync History</translation>
+        <translation>Synkroniseringshistorik</translation>
     </message>
     <message>
         <source>Sync enabled</source>
-        <translation>Sync enabled</translation>
+        <translation>Synkronisering aktiveret</translation>
     </message>
     <message>
         <source>Folders to Sync</source>
-        <translation>Folders to Sync</translation>
+        <translation>Mapper, der skal synkroniseres</translation>
     </message>
     <message>
         <source>Your files, on every device.</source>
-        <translation>Your files, on every device.</translation>
+        <translation>Dine filer på alle dine enheder.</translation>
     </message>
     <message>
         <source>Your files will now sync in the background. You can find them in %1.</source>
-        <translation>Your files will now sync in the background. You can find them in %1.</translation>
+        <translation>Dine filer synkroniseres nu i baggrunden. Du kan finde dem i %1.</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink the sync task &quot;%1&quot;? Files already on this computer are kept.</source>
-        <translation>Are you sure you want to unlink the sync task &quot;%1&quot;? Files already on this computer are kept.</translation>
+        <translation>Er du sikker på, at du vil fjerne tilknytningen af synkroniseringsopgaven &quot;%1&quot;? Filer, der allerede findes på denne computer, bevares.</translation>
     </message>
     <message>
         <source>File Filters</source>
-        <translation>File Filters</translation>
+        <translation>Filfiltre</translation>
     </message>
     <message>
         <source>Created</source>
-        <translation>Created</translation>
+        <translation>Oprettet</translation>
     </message>
     <message>
         <source>Show an icon on files that are not synced</source>
-        <translation>Show an icon on files that are not synced</translation>
+        <translation>Vis et ikon på filer, der ikke synkroniseres</translation>
     </message>
     <message>
         <source>The relay ID &quot;%1&quot; does not exist.</source>
-        <translation>The relay ID &quot;%1&quot; does not exist.</translation>
+        <translation>Relæ-id&apos;et &quot;%1&quot; findes ikke.</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation>Yesterday</translation>
+        <translation>I går</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation>Preferences</translation>
+        <translation>Indstillinger</translation>
     </message>
     <message>
         <source>Sync Tasks</source>
-        <translation>Sync Tasks</translation>
+        <translation>Synkroniseringsopgaver</translation>
     </message>
     <message>
         <source>The server has changed. Please check your sync tasks.</source>
-        <translation>The server has changed. Please check your sync tasks.</translation>
+        <translation>Serveren er ændret. Kontrollér dine synkroniseringsopgaver.</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server.</source>
-        <translation>The shared folder is not mounted on the server.</translation>
+        <translation>Den delte mappe er ikke monteret på serveren.</translation>
     </message>
     <message>
         <source>The remote folder is not available. It may be on an encrypted shared folder that is not mounted.</source>
-        <translation>The remote folder is not available. It may be on an encrypted shared folder that is not mounted.</translation>
+        <translation>Fjernmappen er ikke tilgængelig. Den ligger muligvis i en krypteret delt mappe, der ikke er monteret.</translation>
     </message>
     <message>
         <source>Files beginning with a dot</source>
-        <translation>Files beginning with a dot</translation>
+        <translation>Filer, der begynder med et punktum</translation>
     </message>
     <message>
         <source>Nimbulo Pelora %1 is already installed.\nDo you want to reinstall it?</source>
-        <translation>Nimbulo Pelora %1 is already installed.\nDo you want to reinstall it?</translation>
+        <translation>Nimbulo Pelora %1 er allerede installeret.\nVil du geninstallere programmet?</translation>
     </message>
     <message>
         <source>You need administrator privileges to install Nimbulo Pelora.\nPlease run the installer as an administrator.</source>
-        <translation>You need administrator privileges to install Nimbulo Pelora.\nPlease run the installer as an administrator.</translation>
+        <translation>Du skal have administratorrettigheder for at installere Nimbulo Pelora.\nKør installationsprogrammet som administrator.</translation>
     </message>
     <message>
         <source>Sync your files with Nimbulo Pelora</source>
-        <translation>Sync your files with Nimbulo Pelora</translation>
+        <translation>Synkroniser dine filer med Nimbulo Pelora</translation>
     </message>
     <message>
         <source>File sharing is not available over a LinkVane connection.</source>
-        <translation>File sharing is not available over a LinkVane connection.</translation>
+        <translation>Fildeling er ikke tilgængelig via en LinkVane-forbindelse.</translation>
     </message>
     <message>
         <source>Tue</source>
-        <translation>Tue</translation>
+        <translation>tir</translation>
     </message>
     <message>
         <source>Open Containing Folder</source>
-        <translation>Open Containing Folder</translation>
+        <translation>Åbn mappen med filen</translation>
     </message>
     <message>
         <source>Choose how you want to set up Nimbulo Pelora.</source>
-        <translation>Choose how you want to set up Nimbulo Pelora.</translation>
+        <translation>Vælg, hvordan du vil konfigurere Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Quick Setup</source>
-        <translation>Quick Setup</translation>
+        <translation>Hurtig konfiguration</translation>
     </message>
     <message>
         <source>Right-click a file in the sync folder to share it or browse its previous versions.</source>
-        <translation>Right-click a file in the sync folder to share it or browse its previous versions.</translation>
+        <translation>Højreklik på en fil i synkroniseringsmappen for at dele den eller gennemse dens tidligere versioner.</translation>
     </message>
     <message>
         <source>Got it</source>
-        <translation>Got it</translation>
+        <translation>Forstået</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation>Search</translation>
+        <translation>Søg</translation>
     </message>
     <message>
         <source>Open the tray menu at any time to see what is syncing.</source>
-        <translation>Open the tray menu at any time to see what is syncing.</translation>
+        <translation>Åbn menuen i meddelelsesområdet når som helst for at se, hvad der synkroniseres.</translation>
     </message>
     <message>
         <source>Changes you make are uploaded as soon as you save them.</source>
-        <translation>Changes you make are uploaded as soon as you save them.</translation>
+        <translation>Dine ændringer uploades, så snart du gemmer dem.</translation>
     </message>
     <message>
         <source>%1 hours ago</source>
-        <translation>%1 hours ago</translation>
+        <translation>For %1 timer siden</translation>
     </message>
     <message>
         <source>Do Not Sync This Folder</source>
-        <translation>Do Not Sync This Folder</translation>
+        <translation>Synkroniser ikke denne mappe</translation>
     </message>
     <message>
         <source>History</source>
-        <translation>History</translation>
+        <translation>Historik</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation>Folder</translation>
+        <translation>Mappe</translation>
     </message>
     <message>
         <source>Create a new folder on the NAS to sync with this computer.</source>
-        <translation>Create a new folder on the NAS to sync with this computer.</translation>
+        <translation>Opret en ny mappe på din NAS, som skal synkroniseres med denne computer.</translation>
     </message>
     <message>
         <source>From</source>
-        <translation>From</translation>
+        <translation>Fra</translation>
     </message>
     <message>
         <source>Folder Already Synced</source>
-        <translation>Folder Already Synced</translation>
+        <translation>Mappen synkroniseres allerede</translation>
     </message>
     <message>
         <source>This folder is already being synced by another sync task.</source>
-        <translation>This folder is already being synced by another sync task.</translation>
+        <translation>Mappen synkroniseres allerede af en anden synkroniseringsopgave.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation>Rename</translation>
+        <translation>Omdøb</translation>
     </message>
     <message>
         <source>Preparing to sync...</source>
-        <translation>Preparing to sync...</translation>
+        <translation>Forbereder synkronisering...</translation>
     </message>
     <message>
         <source>Recently Changed</source>
-        <translation>Recently Changed</translation>
+        <translation>Senest ændret</translation>
     </message>
     <message>
         <source>%1 days ago</source>
-        <translation>%1 days ago</translation>
+        <translation>For %1 dage siden</translation>
     </message>
     <message>
         <source>Just now</source>
-        <translation>Just now</translation>
+        <translation>Lige nu</translation>
     </message>
     <message>
         <source>%1 minutes ago</source>
-        <translation>%1 minutes ago</translation>
+        <translation>For %1 minutter siden</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation>%1 items</translation>
+        <translation>%1 elementer</translation>
     </message>
     <message>
         <source>Modified Time</source>
-        <translation>Modified Time</translation>
+        <translation>Ændringstidspunkt</translation>
     </message>
     <message>
         <source>Keyword</source>
-        <translation>Keyword</translation>
+        <translation>Søgeord</translation>
     </message>
     <message>
         <source>Last month</source>
-        <translation>Last month</translation>
+        <translation>Sidste måned</translation>
     </message>
     <message>
         <source>Last week</source>
-        <translation>Last week</translation>
+        <translation>Sidste uge</translation>
     </message>
     <message>
         <source>Resume Syncing This Folder</source>
-        <translation>Resume Syncing This Folder</translation>
+        <translation>Genoptag synkronisering af denne mappe</translation>
     </message>
     <message>
         <source>Resume Syncing These Folders</source>
-        <translation>Resume Syncing These Folders</translation>
+        <translation>Genoptag synkronisering af disse mapper</translation>
     </message>
     <message>
         <source>Do Not Sync These Folders</source>
-        <translation>Do Not Sync These Folders</translation>
+        <translation>Synkroniser ikke disse mapper</translation>
     </message>
     <message>
         <source>No data</source>
-        <translation>No data</translation>
+        <translation>Ingen data</translation>
     </message>
     <message>
         <source>Send to</source>
-        <translation>Send to</translation>
+        <translation>Send til</translation>
     </message>
     <message>
         <source>Currently syncing: %1</source>
-        <translation>Currently syncing: %1</translation>
+        <translation>Synkroniserer nu: %1</translation>
     </message>
     <message>
         <source>File</source>
-        <translation>File</translation>
+        <translation>Fil</translation>
     </message>
     <message>
         <source>Search by file name</source>
-        <translation>Search by file name</translation>
+        <translation>Søg efter filnavn</translation>
     </message>
     <message>
         <source>File Type</source>
-        <translation>File Type</translation>
+        <translation>Filtype</translation>
     </message>
     <message>
         <source>Fri</source>
-        <translation>Fri</translation>
+        <translation>fre</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation>Event</translation>
+        <translation>Hændelse</translation>
     </message>
     <message>
         <source>All events</source>
-        <translation>All events</translation>
+        <translation>Alle hændelser</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation>Custom</translation>
+        <translation>Brugerdefineret</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>Date</translation>
+        <translation>Dato</translation>
     </message>
     <message>
         <source>Date range</source>
-        <translation>Date range</translation>
+        <translation>Datointerval</translation>
     </message>
     <message>
         <source>Download</source>
@@ -1305,11 +1305,11 @@
     </message>
     <message>
         <source>Reset</source>
-        <translation>Reset</translation>
+        <translation>Nulstil</translation>
     </message>
     <message>
         <source>To</source>
-        <translation>To</translation>
+        <translation>Til</translation>
     </message>
     <message>
         <source>Type</source>
@@ -1321,319 +1321,319 @@
     </message>
     <message>
         <source>Mon</source>
-        <translation>Mon</translation>
+        <translation>man</translation>
     </message>
     <message>
         <source>Apr</source>
-        <translation>Apr</translation>
+        <translation>apr</translation>
     </message>
     <message>
         <source>Aug</source>
-        <translation>Aug</translation>
+        <translation>aug</translation>
     </message>
     <message>
         <source>Dec</source>
-        <translation>Dec</translation>
+        <translation>dec</translation>
     </message>
     <message>
         <source>Feb</source>
-        <translation>Feb</translation>
+        <translation>feb</translation>
     </message>
     <message>
         <source>Jan</source>
-        <translation>Jan</translation>
+        <translation>jan</translation>
     </message>
     <message>
         <source>Jul</source>
-        <translation>Jul</translation>
+        <translation>jul</translation>
     </message>
     <message>
         <source>Jun</source>
-        <translation>Jun</translation>
+        <translation>jun</translation>
     </message>
     <message>
         <source>Mar</source>
-        <translation>Mar</translation>
+        <translation>mar</translation>
     </message>
     <message>
         <source>May</source>
-        <translation>May</translation>
+        <translation>maj</translation>
     </message>
     <message>
         <source>Nov</source>
-        <translation>Nov</translation>
+        <translation>nov</translation>
     </message>
     <message>
         <source>Oct</source>
-        <translation>Oct</translation>
+        <translation>okt</translation>
     </message>
     <message>
         <source>Sep</source>
-        <translation>Sep</translation>
+        <translation>sep</translation>
     </message>
     <message>
         <source>Sat</source>
-        <translation>Sat</translation>
+        <translation>lør</translation>
     </message>
     <message>
         <source>Sun</source>
-        <translation>Sun</translation>
+        <translation>søn</translation>
     </message>
     <message>
         <source>Thu</source>
-        <translation>Thu</translation>
+        <translation>tor</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation>Today</translation>
+        <translation>I dag</translation>
     </message>
     <message>
         <source>Wed</source>
-        <translation>Wed</translation>
+        <translation>ons</translation>
     </message>
     <message>
         <source>Advanced Mode</source>
-        <translation>Advanced Mode</translation>
+        <translation>Avanceret tilstand</translation>
     </message>
     <message>
         <source>Don&apos;t show this message again</source>
-        <translation>Don&apos;t show this message again</translation>
+        <translation>Vis ikke denne meddelelse igen</translation>
     </message>
     <message>
         <source>Your files are now syncing with the folder &quot;%1&quot; on the NAS.</source>
-        <translation>Your files are now syncing with the folder &quot;%1&quot; on the NAS.</translation>
+        <translation>Dine filer synkroniseres nu med mappen &quot;%1&quot; på din NAS.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been set up. Your home folder on the NAS is now synced with this computer.</source>
-        <translation>Nimbulo Pelora has been set up. Your home folder on the NAS is now synced with this computer.</translation>
+        <translation>Nimbulo Pelora er konfigureret. Din hjemmemappe på din NAS synkroniseres nu med denne computer.</translation>
     </message>
     <message>
         <source>Setup Complete</source>
-        <translation>Setup Complete</translation>
+        <translation>Konfigurationen er fuldført</translation>
     </message>
     <message>
         <source>Files you put in the sync folder are kept up to date on the NAS and on your other devices.</source>
-        <translation>Files you put in the sync folder are kept up to date on the NAS and on your other devices.</translation>
+        <translation>Filer, som du lægger i synkroniseringsmappen, holdes opdateret på din NAS og på dine andre enheder.</translation>
     </message>
     <message>
         <source>The tray icon shows the sync status at a glance.</source>
-        <translation>The tray icon shows the sync status at a glance.</translation>
+        <translation>Ikonet i meddelelsesområdet viser synkroniseringsstatus med et enkelt blik.</translation>
     </message>
     <message>
         <source>Setup Mode</source>
-        <translation>Setup Mode</translation>
+        <translation>Konfigurationstilstand</translation>
     </message>
     <message>
         <source>Sync your home folder on the NAS with a folder on this computer.</source>
-        <translation>Sync your home folder on the NAS with a folder on this computer.</translation>
+        <translation>Synkroniser din hjemmemappe på din NAS med en mappe på denne computer.</translation>
     </message>
     <message>
         <source>No, thanks</source>
-        <translation>No, thanks</translation>
+        <translation>Nej tak</translation>
     </message>
     <message>
         <source>Welcome</source>
-        <translation>Welcome</translation>
+        <translation>Velkommen</translation>
     </message>
     <message>
         <source>Sync Folder</source>
-        <translation>Sync Folder</translation>
+        <translation>Synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Tray Icon</source>
-        <translation>Tray Icon</translation>
+        <translation>Ikon i meddelelsesområdet</translation>
     </message>
     <message>
         <source>Sharing and Versions</source>
-        <translation>Sharing and Versions</translation>
+        <translation>Deling og versioner</translation>
     </message>
     <message>
         <source>Search for NAS on the local network</source>
-        <translation>Search for NAS on the local network</translation>
+        <translation>Søg efter NAS på det lokale netværk</translation>
     </message>
     <message>
         <source>Connect with LinkVane</source>
-        <translation>Connect with LinkVane</translation>
+        <translation>Opret forbindelse med LinkVane</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Password:</translation>
+        <translation>Adgangskode:</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation>Username:</translation>
+        <translation>Brugernavn:</translation>
     </message>
     <message>
         <source>Welcome to Nimbulo Pelora</source>
-        <translation>Welcome to Nimbulo Pelora</translation>
+        <translation>Velkommen til Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Show Main Window</source>
-        <translation>Show Main Window</translation>
+        <translation>Vis hovedvinduet</translation>
     </message>
     <message>
         <source>Update Available</source>
-        <translation>Update Available</translation>
+        <translation>Opdatering tilgængelig</translation>
     </message>
     <message>
         <source>Folder on the NAS</source>
-        <translation>Folder on the NAS</translation>
+        <translation>Mappe på din NAS</translation>
     </message>
     <message>
         <source>New Sync Folder</source>
-        <translation>New Sync Folder</translation>
+        <translation>Ny synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Sync a new folder</source>
-        <translation>Sync a new folder</translation>
+        <translation>Synkroniser en ny mappe</translation>
     </message>
     <message>
         <source>Advanced Setup</source>
-        <translation>Advanced Setup</translation>
+        <translation>Avanceret konfiguration</translation>
     </message>
     <message>
         <source>Open Sync Status</source>
-        <translation>Open Sync Status</translation>
+        <translation>Åbn synkroniseringsstatus</translation>
     </message>
     <message>
         <source>Choose which folder on the NAS to sync, where to keep it on this computer, and how to sync it.</source>
-        <translation>Choose which folder on the NAS to sync, where to keep it on this computer, and how to sync it.</translation>
+        <translation>Vælg, hvilken mappe på din NAS der skal synkroniseres, hvor den skal ligge på denne computer, og hvordan den skal synkroniseres.</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation>Done</translation>
+        <translation>Færdig</translation>
     </message>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
-        <translation>Files larger than %1 MB will not be synced.</translation>
+        <translation>Filer, der er større end %1 MB, synkroniseres ikke.</translation>
     </message>
     <message>
         <source>Find NAS on the local network</source>
-        <translation>Find NAS on the local network</translation>
+        <translation>Find NAS på det lokale netværk</translation>
     </message>
     <message>
         <source>You only have read permission for &quot;%1&quot;. Changes made on this computer will not be uploaded.</source>
-        <translation>You only have read permission for &quot;%1&quot;. Changes made on this computer will not be uploaded.</translation>
+        <translation>Du har kun læsetilladelse til &quot;%1&quot;. Ændringer, der foretages på denne computer, uploades ikke.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be used as a sync folder.</source>
-        <translation>&quot;%1&quot; cannot be used as a sync folder.</translation>
+        <translation>&quot;%1&quot; kan ikke bruges som synkroniseringsmappe.</translation>
     </message>
     <message>
         <source>More Tips</source>
-        <translation>More Tips</translation>
+        <translation>Flere tip</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; overlaps with the sync folder of another task.</source>
-        <translation>The folder &quot;%1&quot; overlaps with the sync folder of another task.</translation>
+        <translation>Mappen &quot;%1&quot; overlapper synkroniseringsmappen for en anden opgave.</translation>
     </message>
     <message>
         <source>This folder is already synced with &quot;%1&quot;.</source>
-        <translation>This folder is already synced with &quot;%1&quot;.</translation>
+        <translation>Mappen synkroniseres allerede med &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is already synced with a folder on the NAS.</source>
-        <translation>The folder &quot;%1&quot; is already synced with a folder on the NAS.</translation>
+        <translation>Mappen &quot;%1&quot; synkroniseres allerede med en mappe på din NAS.</translation>
     </message>
     <message>
         <source>Create a &quot;Nimbulo&quot; folder in the selected location</source>
-        <translation>Create a &quot;Nimbulo&quot; folder in the selected location</translation>
+        <translation>Opret en &quot;Nimbulo&quot;-mappe på den valgte placering</translation>
     </message>
     <message>
         <source>Copy Sharing Link</source>
-        <translation>Copy Sharing Link</translation>
+        <translation>Kopiér delingslink</translation>
     </message>
     <message>
         <source>Unable to get a sharing link because sharing is disabled on the server.</source>
-        <translation>Unable to get a sharing link because sharing is disabled on the server.</translation>
+        <translation>Der kunne ikke hentes et delingslink, fordi deling er deaktiveret på serveren.</translation>
     </message>
     <message>
         <source>The server&apos;s SSL certificate has changed. Do you trust the new certificate?</source>
-        <translation>The server&apos;s SSL certificate has changed. Do you trust the new certificate?</translation>
+        <translation>Serverens SSL-certifikat er ændret. Har du tillid til det nye certifikat?</translation>
     </message>
     <message>
         <source>Your IP address is not allowed to connect to this server.</source>
-        <translation>Your IP address is not allowed to connect to this server.</translation>
+        <translation>Din IP-adresse har ikke tilladelse til at oprette forbindelse til denne server.</translation>
     </message>
     <message>
         <source>When the same file has been changed on both sides:</source>
-        <translation>When the same file has been changed on both sides:</translation>
+        <translation>Når den samme fil er blevet ændret begge steder:</translation>
     </message>
     <message>
         <source>The sync direction does not match the permissions of this folder.</source>
-        <translation>The sync direction does not match the permissions of this folder.</translation>
+        <translation>Synkroniseringsretningen passer ikke til tilladelserne for denne mappe.</translation>
     </message>
     <message>
         <source>Last page</source>
-        <translation>Last page</translation>
+        <translation>Sidste side</translation>
     </message>
     <message>
         <source>First page</source>
-        <translation>First page</translation>
+        <translation>Første side</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation>Previous %1 pages</translation>
+        <translation>Forrige %1 sider</translation>
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation>Next %1 pages</translation>
+        <translation>Næste %1 sider</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation>Open File</translation>
+        <translation>Åbn fil</translation>
     </message>
     <message>
         <source>Open Folder</source>
-        <translation>Open Folder</translation>
+        <translation>Åbn mappe</translation>
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation>Unlinking...</translation>
+        <translation>Fjerner tilknytning...</translation>
     </message>
     <message>
         <source>Too many failed attempts. Please try again later.</source>
-        <translation>Too many failed attempts. Please try again later.</translation>
+        <translation>For mange mislykkede forsøg. Prøv igen senere.</translation>
     </message>
     <message>
         <source>This file is locked by another application.</source>
-        <translation>This file is locked by another application.</translation>
+        <translation>Filen er låst af et andet program.</translation>
     </message>
     <message>
         <source>Unable to check &quot;%1&quot; because of a network error.</source>
-        <translation>Unable to check &quot;%1&quot; because of a network error.</translation>
+        <translation>&quot;%1&quot; kunne ikke kontrolleres på grund af en netværksfejl.</translation>
     </message>
     <message>
         <source>Keep the most recently modified version</source>
-        <translation>Keep the most recently modified version</translation>
+        <translation>Behold den senest ændrede version</translation>
     </message>
     <message>
         <source>Two-way sync</source>
-        <translation>Two-way sync</translation>
+        <translation>Tovejssynkronisering</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your account.</source>
-        <translation>Enter the address of your NAS and your account.</translation>
+        <translation>Angiv adressen på din NAS og dine kontooplysninger.</translation>
     </message>
     <message>
         <source>Unable to create the local folder &quot;%1&quot;.</source>
-        <translation>Unable to create the local folder &quot;%1&quot;.</translation>
+        <translation>Den lokale mappe &quot;%1&quot; kunne ikke oprettes.</translation>
     </message>
     <message>
         <source>Select a folder on the NAS and a folder on this computer to sync with each other.</source>
-        <translation>Select a folder on the NAS and a folder on this computer to sync with each other.</translation>
+        <translation>Vælg en mappe på din NAS og en mappe på denne computer, som skal synkroniseres med hinanden.</translation>
     </message>
     <message>
         <source>Set Sync Folders</source>
-        <translation>Set Sync Folders</translation>
+        <translation>Angiv synkroniseringsmapper</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is now syncing &quot;%1&quot; on the NAS with &quot;%2&quot; on this computer.</source>
-        <translation>Nimbulo Pelora is now syncing &quot;%1&quot; on the NAS with &quot;%2&quot; on this computer.</translation>
+        <translation>Nimbulo Pelora synkroniserer nu &quot;%1&quot; på din NAS med &quot;%2&quot; på denne computer.</translation>
     </message>
     <message>
         <source>When files conflict, the server&apos;s copy is kept and the local copy is backed up.</source>
-        <translation>When files conflict, the server&apos;s copy is kept and the local copy is backed up.</translation>
+        <translation>Ved filkonflikter bevares serverens kopi, og der tages en sikkerhedskopi af den lokale kopi.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora</source>
@@ -1641,47 +1641,47 @@
     </message>
     <message>
         <source>Enable On-demand Sync</source>
-        <translation>Enable On-demand Sync</translation>
+        <translation>Aktivér synkronisering efter behov</translation>
     </message>
     <message>
         <source>The verification code is incorrect.</source>
-        <translation>The verification code is incorrect.</translation>
+        <translation>Bekræftelseskoden er forkert.</translation>
     </message>
     <message>
         <source>This account requires a verification code.</source>
-        <translation>This account requires a verification code.</translation>
+        <translation>Denne konto kræver en bekræftelseskode.</translation>
     </message>
     <message>
         <source>Enter the verification code from your authenticator app:</source>
-        <translation>Enter the verification code from your authenticator app:</translation>
+        <translation>Angiv bekræftelseskoden fra din godkendelsesapp:</translation>
     </message>
     <message>
         <source>Your quota on the NAS is full. &quot;%1&quot; cannot be synced.</source>
-        <translation>Your quota on the NAS is full. &quot;%1&quot; cannot be synced.</translation>
+        <translation>Din kvote på din NAS er opbrugt. &quot;%1&quot; kan ikke synkroniseres.</translation>
     </message>
     <message>
         <source>The server certificate has changed. Unable to sync &quot;%1&quot;.</source>
-        <translation>The server certificate has changed. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Servercertifikatet er ændret. &quot;%1&quot; kan ikke synkroniseres.</translation>
     </message>
     <message>
         <source>The server certificate cannot be verified. Unable to sync &quot;%1&quot;.</source>
-        <translation>The server certificate cannot be verified. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Servercertifikatet kan ikke bekræftes. &quot;%1&quot; kan ikke synkroniseres.</translation>
     </message>
     <message>
         <source>A system error occurred while checking the sync folder.</source>
-        <translation>A system error occurred while checking the sync folder.</translation>
+        <translation>Der opstod en systemfejl under kontrollen af synkroniseringsmappen.</translation>
     </message>
     <message>
         <source>Overwrite the local copy with the server&apos;s copy</source>
-        <translation>Overwrite the local copy with the server&apos;s copy</translation>
+        <translation>Overskriv den lokale kopi med serverens kopi</translation>
     </message>
     <message>
         <source>Keep both copies and rename the local one</source>
-        <translation>Keep both copies and rename the local one</translation>
+        <translation>Behold begge kopier, og omdøb den lokale</translation>
     </message>
     <message>
         <source>A newer version of Nimbulo Pelora (%1) is already installed.\nSetup will now exit.</source>
-        <translation>A newer version of Nimbulo Pelora (%1) is already installed.\nSetup will now exit.</translation>
+        <translation>En nyere version af Nimbulo Pelora (%1) er allerede installeret.\nInstallationsprogrammet afsluttes nu.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is ready.</source>
@@ -1693,491 +1693,491 @@
     </message>
     <message>
         <source>No folder that you can sync was found.</source>
-        <translation>No folder that you can sync was found.</translation>
+        <translation>Der blev ikke fundet nogen mappe, som du kan synkronisere.</translation>
     </message>
     <message>
         <source>Show the tutorial</source>
-        <translation>Show the tutorial</translation>
+        <translation>Vis introduktionen</translation>
     </message>
     <message>
         <source>Files in the local folder will be merged with the files on the NAS.</source>
-        <translation>Files in the local folder will be merged with the files on the NAS.</translation>
+        <translation>Filerne i den lokale mappe flettes med filerne på din NAS.</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora when the computer starts</source>
-        <translation>Start Nimbulo Pelora when the computer starts</translation>
+        <translation>Start Nimbulo Pelora, når computeren starter</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered an error.</source>
-        <translation>Nimbulo Pelora has encountered an error.</translation>
+        <translation>Der opstod en fejl i Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is running.</source>
-        <translation>Nimbulo Pelora is running.</translation>
+        <translation>Nimbulo Pelora kører.</translation>
     </message>
     <message>
         <source>This version of Nimbulo Pelora is no longer supported. Please update it.</source>
-        <translation>This version of Nimbulo Pelora is no longer supported. Please update it.</translation>
+        <translation>Denne version af Nimbulo Pelora understøttes ikke længere. Opdater programmet.</translation>
     </message>
     <message>
         <source>Click to update Nimbulo Pelora</source>
-        <translation>Click to update Nimbulo Pelora</translation>
+        <translation>Klik for at opdatere Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Please update the sync service on the server to use selective sync.</source>
-        <translation>Please update the sync service on the server to use selective sync.</translation>
+        <translation>Opdater synkroniseringstjenesten på serveren for at bruge selektiv synkronisering.</translation>
     </message>
     <message>
         <source>There is not enough free space on this computer to sync &quot;%1&quot;.</source>
-        <translation>There is not enough free space on this computer to sync &quot;%1&quot;.</translation>
+        <translation>Der er ikke nok ledig plads på denne computer til at synkronisere &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Sign in to your NAS to start syncing.</source>
-        <translation>Sign in to your NAS to start syncing.</translation>
+        <translation>Log på din NAS for at begynde at synkronisere.</translation>
     </message>
     <message>
         <source>Keep the files on this computer in sync with your NAS.</source>
-        <translation>Keep the files on this computer in sync with your NAS.</translation>
+        <translation>Hold filerne på denne computer synkroniseret med din NAS.</translation>
     </message>
     <message>
         <source>Shared folder not found</source>
-        <translation>Shared folder not found</translation>
+        <translation>Den delte mappe blev ikke fundet</translation>
     </message>
     <message>
         <source>About Nimbulo Pelora</source>
-        <translation>About Nimbulo Pelora</translation>
+        <translation>Om Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Your administrator requires two-step verification. Please enable it in your account settings first.</source>
-        <translation>Your administrator requires two-step verification. Please enable it in your account settings first.</translation>
+        <translation>Din administrator kræver totrinsbekræftelse. Aktivér den først i dine kontoindstillinger.</translation>
     </message>
     <message>
         <source>The quota of the shared folder is full.</source>
-        <translation>The quota of the shared folder is full.</translation>
+        <translation>Kvoten for den delte mappe er opbrugt.</translation>
     </message>
     <message>
         <source>Sync Direction</source>
-        <translation>Sync Direction</translation>
+        <translation>Synkroniseringsretning</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered a problem while syncing. Click for details.</source>
-        <translation>Nimbulo Pelora has encountered a problem while syncing. Click for details.</translation>
+        <translation>Der opstod et problem under synkroniseringen i Nimbulo Pelora. Klik for at se detaljer.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora keeps your files up to date on all of your devices.</source>
-        <translation>Nimbulo Pelora keeps your files up to date on all of your devices.</translation>
+        <translation>Nimbulo Pelora holder dine filer opdateret på alle dine enheder.</translation>
     </message>
     <message>
         <source>Some fields contain invalid values.</source>
-        <translation>Some fields contain invalid values.</translation>
+        <translation>Nogle felter indeholder ugyldige værdier.</translation>
     </message>
     <message>
         <source>You do not have permission to access &quot;%1&quot;.</source>
-        <translation>You do not have permission to access &quot;%1&quot;.</translation>
+        <translation>Du har ikke tilladelse til at få adgang til &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Your account has been disabled. Unable to sync &quot;%1&quot;.</source>
-        <translation>Your account has been disabled. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Din konto er deaktiveret. &quot;%1&quot; kan ikke synkroniseres.</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Address</translation>
+        <translation>Adresse</translation>
     </message>
     <message>
         <source>Expires after</source>
-        <translation>Expires after</translation>
+        <translation>Udløber efter</translation>
     </message>
     <message>
         <source>No options available</source>
-        <translation>No options available</translation>
+        <translation>Ingen tilgængelige indstillinger</translation>
     </message>
     <message>
         <source>You need an account on a NAS with the sync service installed.</source>
-        <translation>You need an account on a NAS with the sync service installed.</translation>
+        <translation>Du skal have en konto på en NAS, hvor synkroniseringstjenesten er installeret.</translation>
     </message>
     <message>
         <source>Authentication failed. Please check your username and password.</source>
-        <translation>Authentication failed. Please check your username and password.</translation>
+        <translation>Godkendelsen mislykkedes. Kontrollér dit brugernavn og din adgangskode.</translation>
     </message>
     <message>
         <source>Use * to match any characters. Separate entries with commas.</source>
-        <translation>Use * to match any characters. Separate entries with commas.</translation>
+        <translation>Brug * til at matche vilkårlige tegn. Adskil posterne med kommaer.</translation>
     </message>
     <message>
         <source>One-way download</source>
-        <translation>One-way download</translation>
+        <translation>Envejsdownload</translation>
     </message>
     <message>
         <source>A folder named &quot;%1&quot; already exists.</source>
-        <translation>A folder named &quot;%1&quot; already exists.</translation>
+        <translation>Der findes allerede en mappe med navnet &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Sync extended attributes</source>
-        <translation>Sync extended attributes</translation>
+        <translation>Synkroniser udvidede attributter</translation>
     </message>
     <message>
         <source>I do not accept the terms in the License Agreement</source>
-        <translation>I do not accept the terms in the License Agreement</translation>
+        <translation>Jeg accepterer ikke betingelserne i licensaftalen</translation>
     </message>
     <message>
         <source>Sharing Link</source>
-        <translation>Sharing Link</translation>
+        <translation>Delingslink</translation>
     </message>
     <message>
         <source>Expires on</source>
-        <translation>Expires on</translation>
+        <translation>Udløber den</translation>
     </message>
     <message>
         <source>This field is required.</source>
-        <translation>This field is required.</translation>
+        <translation>Feltet skal udfyldes.</translation>
     </message>
     <message>
         <source>Restrict access to users with an account</source>
-        <translation>Restrict access to users with an account</translation>
+        <translation>Begræns adgangen til brugere med en konto</translation>
     </message>
     <message>
         <source>Show Nimbulo Pelora in the context menu</source>
-        <translation>Show Nimbulo Pelora in the context menu</translation>
+        <translation>Vis Nimbulo Pelora i genvejsmenuen</translation>
     </message>
     <message>
         <source>The home folder service is disabled on the NAS.</source>
-        <translation>The home folder service is disabled on the NAS.</translation>
+        <translation>Hjemmemappetjenesten er deaktiveret på din NAS.</translation>
     </message>
     <message>
         <source>Unable to update Nimbulo Pelora. Please try again later.</source>
-        <translation>Unable to update Nimbulo Pelora. Please try again later.</translation>
+        <translation>Nimbulo Pelora kunne ikke opdateres. Prøv igen senere.</translation>
     </message>
     <message>
         <source>Apply and Copy Link</source>
-        <translation>Apply and Copy Link</translation>
+        <translation>Anvend, og kopiér link</translation>
     </message>
     <message>
         <source>Limit the number of accesses</source>
-        <translation>Limit the number of accesses</translation>
+        <translation>Begræns antallet af adgange</translation>
     </message>
     <message>
         <source>Available from</source>
-        <translation>Available from</translation>
+        <translation>Tilgængelig fra</translation>
     </message>
     <message>
         <source>A new version of Nimbulo Pelora is required to connect to this server. Update now?</source>
-        <translation>A new version of Nimbulo Pelora is required to connect to this server. Update now?</translation>
+        <translation>Der kræves en ny version af Nimbulo Pelora for at oprette forbindelse til denne server. Vil du opdatere nu?</translation>
     </message>
     <message>
         <source>Add file name</source>
-        <translation>Add file name</translation>
+        <translation>Tilføj filnavn</translation>
     </message>
     <message>
         <source>Local destination</source>
-        <translation>Local destination</translation>
+        <translation>Lokal destination</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation>Language</translation>
+        <translation>Sprog</translation>
     </message>
     <message>
         <source>Remote NAS</source>
-        <translation>Remote NAS</translation>
+        <translation>Fjern-NAS</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation>This computer</translation>
+        <translation>Denne computer</translation>
     </message>
     <message>
         <source>Download the selected version</source>
-        <translation>Download the selected version</translation>
+        <translation>Download den valgte version</translation>
     </message>
     <message>
         <source>Custom duration</source>
-        <translation>Custom duration</translation>
+        <translation>Brugerdefineret varighed</translation>
     </message>
     <message>
         <source>Refresh sync history</source>
-        <translation>Refresh sync history</translation>
+        <translation>Opdater synkroniseringshistorikken</translation>
     </message>
     <message>
         <source>On-demand Sync</source>
-        <translation>On-demand Sync</translation>
+        <translation>Synkronisering efter behov</translation>
     </message>
     <message>
         <source>Filter sync history</source>
-        <translation>Filter sync history</translation>
+        <translation>Filtrer synkroniseringshistorikken</translation>
     </message>
     <message>
         <source>Add folder</source>
-        <translation>Add folder</translation>
+        <translation>Tilføj mappe</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation>Calendar</translation>
+        <translation>Kalender</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation>Next month</translation>
+        <translation>Næste måned</translation>
     </message>
     <message>
         <source>Previous month</source>
-        <translation>Previous month</translation>
+        <translation>Forrige måned</translation>
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation>Change sync folder</translation>
+        <translation>Skift synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Event category</source>
-        <translation>Event category</translation>
+        <translation>Hændelseskategori</translation>
     </message>
     <message>
         <source>Sync task details</source>
-        <translation>Sync task details</translation>
+        <translation>Detaljer om synkroniseringsopgaven</translation>
     </message>
     <message>
         <source>Remote destination</source>
-        <translation>Remote destination</translation>
+        <translation>Fjerndestination</translation>
     </message>
     <message>
         <source>Close tutorial</source>
-        <translation>Close tutorial</translation>
+        <translation>Luk introduktionen</translation>
     </message>
     <message>
         <source>Tutorial: learn how to use Nimbulo Pelora.</source>
-        <translation>Tutorial: learn how to use Nimbulo Pelora.</translation>
+        <translation>Introduktion: Lær at bruge Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Cancel download</source>
-        <translation>Cancel download</translation>
+        <translation>Annuller download</translation>
     </message>
     <message>
         <source>Delete version</source>
-        <translation>Delete version</translation>
+        <translation>Slet version</translation>
     </message>
     <message>
         <source>Unable to enable On-demand Sync for &quot;%1&quot;.</source>
-        <translation>Unable to enable On-demand Sync for &quot;%1&quot;.</translation>
+        <translation>Synkronisering efter behov kunne ikke aktiveres for &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>This file is not available because there is no connection to the server.</source>
-        <translation>This file is not available because there is no connection to the server.</translation>
+        <translation>Filen er ikke tilgængelig, fordi der ikke er forbindelse til serveren.</translation>
     </message>
     <message>
         <source>Renamed on this computer</source>
-        <translation>Renamed on this computer</translation>
+        <translation>Omdøbt på denne computer</translation>
     </message>
     <message>
         <source>Renamed on the server</source>
-        <translation>Renamed on the server</translation>
+        <translation>Omdøbt på serveren</translation>
     </message>
     <message>
         <source>Please enter no more than %1 characters.</source>
-        <translation>Please enter no more than %1 characters.</translation>
+        <translation>Angiv højst %1 tegn.</translation>
     </message>
     <message>
         <source>Your password has expired. Please change it on the server and sign in again.</source>
-        <translation>Your password has expired. Please change it on the server and sign in again.</translation>
+        <translation>Din adgangskode er udløbet. Skift den på serveren, og log på igen.</translation>
     </message>
     <message>
         <source>This folder was synced by a different user. Please choose another folder.</source>
-        <translation>This folder was synced by a different user. Please choose another folder.</translation>
+        <translation>Mappen er blevet synkroniseret af en anden bruger. Vælg en anden mappe.</translation>
     </message>
     <message>
         <source>Relay connections are disabled on the server.</source>
-        <translation>Relay connections are disabled on the server.</translation>
+        <translation>Relæforbindelser er deaktiveret på serveren.</translation>
     </message>
     <message>
         <source>Authentication failed for &quot;%1&quot;. Please sign in again.</source>
-        <translation>Authentication failed for &quot;%1&quot;. Please sign in again.</translation>
+        <translation>Godkendelsen mislykkedes for &quot;%1&quot;. Log på igen.</translation>
     </message>
     <message>
         <source>Unable to get the link to this file.</source>
-        <translation>Unable to get the link to this file.</translation>
+        <translation>Linket til denne fil kunne ikke hentes.</translation>
     </message>
     <message>
         <source>Temporary files</source>
-        <translation>Temporary files</translation>
+        <translation>Midlertidige filer</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation>Later</translation>
+        <translation>Senere</translation>
     </message>
     <message>
         <source>Congratulations!</source>
-        <translation>Congratulations!</translation>
+        <translation>Tillykke!</translation>
     </message>
     <message>
         <source>Folders others have shared with you</source>
-        <translation>Folders others have shared with you</translation>
+        <translation>Mapper, som andre har delt med dig</translation>
     </message>
     <message>
         <source>You have read-only access to this folder. Changes you make here stay on this computer.</source>
-        <translation>You have read-only access to this folder. Changes you make here stay on this computer.</translation>
+        <translation>Du har kun læseadgang til denne mappe. De ændringer, du foretager her, forbliver på denne computer.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is now syncing &quot;%1&quot; on the server with &quot;%2&quot; on this computer.</source>
-        <translation>Nimbulo Pelora is now syncing &quot;%1&quot; on the server with &quot;%2&quot; on this computer.</translation>
+        <translation>Nimbulo Pelora synkroniserer nu &quot;%1&quot; på serveren med &quot;%2&quot; på denne computer.</translation>
     </message>
     <message>
         <source>Show the Nimbulo Pelora tutorial</source>
-        <translation>Show the Nimbulo Pelora tutorial</translation>
+        <translation>Vis introduktionen til Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is running in the background.</source>
-        <translation>Nimbulo Pelora is running in the background.</translation>
+        <translation>Nimbulo Pelora kører i baggrunden.</translation>
     </message>
     <message>
         <source>Sign in to your server to start syncing.</source>
-        <translation>Sign in to your server to start syncing.</translation>
+        <translation>Log på din server for at begynde at synkronisere.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be updated. Please download the latest version and install it again.</source>
-        <translation>Nimbulo Pelora could not be updated. Please download the latest version and install it again.</translation>
+        <translation>Nimbulo Pelora kunne ikke opdateres. Download den nyeste version, og installer den igen.</translation>
     </message>
     <message>
         <source>You need an account on a server with the sync service installed.</source>
-        <translation>You need an account on a server with the sync service installed.</translation>
+        <translation>Du skal have en konto på en server, hvor synkroniseringstjenesten er installeret.</translation>
     </message>
     <message>
         <source>Conflicting changes are kept in both copies: the server copy is renamed with the user name.</source>
-        <translation>Conflicting changes are kept in both copies: the server copy is renamed with the user name.</translation>
+        <translation>Modstridende ændringer bevares i begge kopier: serverens kopi omdøbes med brugernavnet.</translation>
     </message>
     <message>
         <source>Tutorial: learn how to sync with Nimbulo Pelora.</source>
-        <translation>Tutorial: learn how to sync with Nimbulo Pelora.</translation>
+        <translation>Introduktion: Lær at synkronisere med Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>The server ID &quot;%1&quot; does not exist.</source>
-        <translation>The server ID &quot;%1&quot; does not exist.</translation>
+        <translation>Server-id&apos;et &quot;%1&quot; findes ikke.</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora when I sign in</source>
-        <translation>Start Nimbulo Pelora when I sign in</translation>
+        <translation>Start Nimbulo Pelora, når jeg logger på</translation>
     </message>
     <message>
         <source>Choose a folder on the server and a folder on this computer.</source>
-        <translation>Choose a folder on the server and a folder on this computer.</translation>
+        <translation>Vælg en mappe på serveren og en mappe på denne computer.</translation>
     </message>
     <message>
         <source>This sync task belongs to a different server.</source>
-        <translation>This sync task belongs to a different server.</translation>
+        <translation>Denne synkroniseringsopgave hører til en anden server.</translation>
     </message>
     <message>
         <source>The server uses a protocol that this version of Nimbulo Pelora does not support.</source>
-        <translation>The server uses a protocol that this version of Nimbulo Pelora does not support.</translation>
+        <translation>Serveren bruger en protokol, som denne version af Nimbulo Pelora ikke understøtter.</translation>
     </message>
     <message>
         <source>The disk is full. Nimbulo Pelora has paused syncing.</source>
-        <translation>The disk is full. Nimbulo Pelora has paused syncing.</translation>
+        <translation>Disken er fuld. Nimbulo Pelora har sat synkroniseringen på pause.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered an error. Please restart it.</source>
-        <translation>Nimbulo Pelora has encountered an error. Please restart it.</translation>
+        <translation>Der opstod en fejl i Nimbulo Pelora. Genstart programmet.</translation>
     </message>
     <message>
         <source>The selected folder is not empty. Its files will be uploaded to the server.</source>
-        <translation>The selected folder is not empty. Its files will be uploaded to the server.</translation>
+        <translation>Den valgte mappe er ikke tom. Filerne i den uploades til serveren.</translation>
     </message>
     <message>
         <source>Download changes from the server only</source>
-        <translation>Download changes from the server only</translation>
+        <translation>Download kun ændringer fra serveren</translation>
     </message>
     <message>
         <source>Your files are now syncing with the folder &quot;%1&quot; on the server.</source>
-        <translation>Your files are now syncing with the folder &quot;%1&quot; on the server.</translation>
+        <translation>Dine filer synkroniseres nu med mappen &quot;%1&quot; på serveren.</translation>
     </message>
     <message>
         <source>Varnex Pelora %1 is already installed.\nDo you want to reinstall it?</source>
-        <translation>Varnex Pelora %1 is already installed.\nDo you want to reinstall it?</translation>
+        <translation>Varnex Pelora %1 er allerede installeret.\nVil du geninstallere programmet?</translation>
     </message>
     <message>
         <source>Not enough free space to sync &quot;%1&quot;. Free up some space and try again.</source>
-        <translation>Not enough free space to sync &quot;%1&quot;. Free up some space and try again.</translation>
+        <translation>Der er ikke nok ledig plads til at synkronisere &quot;%1&quot;. Frigør plads, og prøv igen.</translation>
     </message>
     <message>
         <source>Keep the files on this computer in sync with your server.</source>
-        <translation>Keep the files on this computer in sync with your server.</translation>
+        <translation>Hold filerne på denne computer synkroniseret med din server.</translation>
     </message>
     <message>
         <source>Create a &quot;Varnex Pelora&quot; folder in the selected location</source>
-        <translation>Create a &quot;Varnex Pelora&quot; folder in the selected location</translation>
+        <translation>Opret en &quot;Varnex Pelora&quot;-mappe på den valgte placering</translation>
     </message>
     <message>
         <source>A newer version of Varnex Pelora (%1) is already installed.\nSetup will now exit.</source>
-        <translation>A newer version of Varnex Pelora (%1) is already installed.\nSetup will now exit.</translation>
+        <translation>En nyere version af Varnex Pelora (%1) er allerede installeret.\nInstallationsprogrammet afsluttes nu.</translation>
     </message>
     <message>
         <source>Sync a folder of your choice on the server.</source>
-        <translation>Sync a folder of your choice on the server.</translation>
+        <translation>Synkroniser en valgfri mappe på serveren.</translation>
     </message>
     <message>
         <source>Automatic setup failed. Please set up Nimbulo Pelora manually.</source>
-        <translation>Automatic setup failed. Please set up Nimbulo Pelora manually.</translation>
+        <translation>Den automatiske konfiguration mislykkedes. Konfigurer Nimbulo Pelora manuelt.</translation>
     </message>
     <message>
         <source>Finishing automatic setup...</source>
-        <translation>Finishing automatic setup...</translation>
+        <translation>Afslutter den automatiske konfiguration...</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation>Share</translation>
+        <translation>Del</translation>
     </message>
     <message>
         <source>No data available.</source>
-        <translation>No data available.</translation>
+        <translation>Der er ingen tilgængelige data.</translation>
     </message>
     <message>
         <source>No shared folders are available.</source>
-        <translation>No shared folders are available.</translation>
+        <translation>Der er ingen tilgængelige delte mapper.</translation>
     </message>
     <message>
         <source>The file or folder does not exist.</source>
-        <translation>The file or folder does not exist.</translation>
+        <translation>Filen eller mappen findes ikke.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been configured by your administrator.</source>
-        <translation>Nimbulo Pelora has been configured by your administrator.</translation>
+        <translation>Nimbulo Pelora er konfigureret af din administrator.</translation>
     </message>
     <message>
         <source>Internal users</source>
-        <translation>Internal users</translation>
+        <translation>Interne brugere</translation>
     </message>
     <message>
         <source>Users of the server can view the file.</source>
-        <translation>Users of the server can view the file.</translation>
+        <translation>Brugere af serveren kan se filen.</translation>
     </message>
     <message>
         <source>Users of the server can view and edit the file.</source>
-        <translation>Users of the server can view and edit the file.</translation>
+        <translation>Brugere af serveren kan se og redigere filen.</translation>
     </message>
     <message>
         <source>Specific people</source>
-        <translation>Specific people</translation>
+        <translation>Bestemte personer</translation>
     </message>
     <message>
         <source>Only people you invite can access the file.</source>
-        <translation>Only people you invite can access the file.</translation>
+        <translation>Kun personer, du inviterer, kan få adgang til filen.</translation>
     </message>
     <message>
         <source>Anyone with the link</source>
-        <translation>Anyone with the link</translation>
+        <translation>Alle med linket</translation>
     </message>
     <message>
         <source>Anyone with the link can view the file.</source>
-        <translation>Anyone with the link can view the file.</translation>
+        <translation>Alle med linket kan se filen.</translation>
     </message>
     <message>
         <source>Anyone with the link can view and edit the file.</source>
-        <translation>Anyone with the link can view and edit the file.</translation>
+        <translation>Alle med linket kan se og redigere filen.</translation>
     </message>
     <message>
         <source>Can view</source>
-        <translation>Can view</translation>
+        <translation>Kan se</translation>
     </message>
     <message>
         <source>Can edit</source>
-        <translation>Can edit</translation>
+        <translation>Kan redigere</translation>
     </message>
     <message>
         <source>Invite</source>
-        <translation>Invite</translation>
+        <translation>Inviter</translation>
     </message>
     <message>
         <source>Link</source>
@@ -2185,215 +2185,215 @@
     </message>
     <message>
         <source>Link permission:</source>
-        <translation>Link permission:</translation>
+        <translation>Linktilladelse:</translation>
     </message>
     <message>
         <source>Users and groups</source>
-        <translation>Users and groups</translation>
+        <translation>Brugere og grupper</translation>
     </message>
     <message>
         <source>Use a black-and-white icon in the menu bar</source>
-        <translation>Use a black-and-white icon in the menu bar</translation>
+        <translation>Brug et sort-hvidt ikon på menulinjen</translation>
     </message>
     <message>
         <source>Show the sync folder in the sidebar of file windows</source>
-        <translation>Show the sync folder in the sidebar of file windows</translation>
+        <translation>Vis synkroniseringsmappen i sidepanelet i filvinduer</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation>Display</translation>
+        <translation>Visning</translation>
     </message>
     <message>
         <source>Unable to connect to the server</source>
-        <translation>Unable to connect to the server</translation>
+        <translation>Der kunne ikke oprettes forbindelse til serveren</translation>
     </message>
     <message>
         <source>Notifications</source>
-        <translation>Notifications</translation>
+        <translation>Meddelelser</translation>
     </message>
     <message>
         <source>%1 commented on %2</source>
-        <translation>%1 commented on %2</translation>
+        <translation>%1 har kommenteret %2</translation>
     </message>
     <message>
         <source>%1 mentioned you in %2</source>
-        <translation>%1 mentioned you in %2</translation>
+        <translation>%1 har nævnt dig i %2</translation>
     </message>
     <message>
         <source>%1 requested access to %2</source>
-        <translation>%1 requested access to %2</translation>
+        <translation>%1 har anmodet om adgang til %2</translation>
     </message>
     <message>
         <source>%1 shared %2 with you</source>
-        <translation>%1 shared %2 with you</translation>
+        <translation>%1 har delt %2 med dig</translation>
     </message>
     <message>
         <source>Open in Web Portal</source>
-        <translation>Open in Web Portal</translation>
+        <translation>Åbn i webportalen</translation>
     </message>
     <message>
         <source>Sync</source>
-        <translation>Sync</translation>
+        <translation>Synkronisering</translation>
     </message>
     <message>
         <source>Shared</source>
-        <translation>Shared</translation>
+        <translation>Delt</translation>
     </message>
     <message>
         <source>Set Up</source>
-        <translation>Set Up</translation>
+        <translation>Konfigurer</translation>
     </message>
     <message>
         <source>%1 is requesting access to this file.</source>
-        <translation>%1 is requesting access to this file.</translation>
+        <translation>%1 anmoder om adgang til denne fil.</translation>
     </message>
     <message>
         <source>Comments</source>
-        <translation>Comments</translation>
+        <translation>Kommentarer</translation>
     </message>
     <message>
         <source>Mentions</source>
-        <translation>Mentions</translation>
+        <translation>Omtaler</translation>
     </message>
     <message>
         <source>Sync the folders shared with you as well?</source>
-        <translation>Sync the folders shared with you as well?</translation>
+        <translation>Vil du også synkronisere de mapper, der er delt med dig?</translation>
     </message>
     <message>
         <source>One-way upload</source>
-        <translation>One-way upload</translation>
+        <translation>Envejsupload</translation>
     </message>
     <message>
         <source>Do not remove files on the server when they are removed locally</source>
-        <translation>Do not remove files on the server when they are removed locally</translation>
+        <translation>Fjern ikke filer på serveren, når de fjernes lokalt</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has been downloaded.</source>
-        <translation>&quot;%1&quot; has been downloaded.</translation>
+        <translation>&quot;%1&quot; er downloadet.</translation>
     </message>
     <message>
         <source>Your files are synced on all devices.</source>
-        <translation>Your files are synced on all devices.</translation>
+        <translation>Dine filer er synkroniseret på alle enheder.</translation>
     </message>
     <message>
         <source>You can also access your files from the web portal.</source>
-        <translation>You can also access your files from the web portal.</translation>
+        <translation>Du kan også få adgang til dine filer via webportalen.</translation>
     </message>
     <message>
         <source>Your sync task is ready.</source>
-        <translation>Your sync task is ready.</translation>
+        <translation>Din synkroniseringsopgave er klar.</translation>
     </message>
     <message>
         <source>Start Tour</source>
-        <translation>Start Tour</translation>
+        <translation>Start rundvisning</translation>
     </message>
     <message>
         <source>Files and folders that others share with you can also be synced to this computer.</source>
-        <translation>Files and folders that others share with you can also be synced to this computer.</translation>
+        <translation>Filer og mapper, som andre deler med dig, kan også synkroniseres til denne computer.</translation>
     </message>
     <message>
         <source>Maybe later</source>
-        <translation>Maybe later</translation>
+        <translation>Måske senere</translation>
     </message>
     <message>
         <source>Sync now</source>
-        <translation>Sync now</translation>
+        <translation>Synkroniser nu</translation>
     </message>
     <message>
         <source>Shared with Me</source>
-        <translation>Shared with Me</translation>
+        <translation>Delt med mig</translation>
     </message>
     <message>
         <source>Create Sync Task</source>
-        <translation>Create Sync Task</translation>
+        <translation>Opret synkroniseringsopgave</translation>
     </message>
     <message>
         <source>Choose what you want to sync.</source>
-        <translation>Choose what you want to sync.</translation>
+        <translation>Vælg, hvad du vil synkronisere.</translation>
     </message>
     <message>
         <source>General Sync Task</source>
-        <translation>General Sync Task</translation>
+        <translation>Generel synkroniseringsopgave</translation>
     </message>
     <message>
         <source>Files Shared with Me</source>
-        <translation>Files Shared with Me</translation>
+        <translation>Filer delt med mig</translation>
     </message>
     <message>
         <source>Sync the files and folders others have shared with you.</source>
-        <translation>Sync the files and folders others have shared with you.</translation>
+        <translation>Synkroniser de filer og mapper, som andre har delt med dig.</translation>
     </message>
     <message>
         <source>Choose a folder on the NAS and a folder on this computer.</source>
-        <translation>Choose a folder on the NAS and a folder on this computer.</translation>
+        <translation>Vælg en mappe på din NAS og en mappe på denne computer.</translation>
     </message>
     <message>
         <source>This sync task belongs to a different NAS.</source>
-        <translation>This sync task belongs to a different NAS.</translation>
+        <translation>Denne synkroniseringsopgave hører til en anden NAS.</translation>
     </message>
     <message>
         <source>The NAS uses a protocol that this version of Nimbulo Pelora does not support.</source>
-        <translation>The NAS uses a protocol that this version of Nimbulo Pelora does not support.</translation>
+        <translation>Din NAS bruger en protokol, som denne version af Nimbulo Pelora ikke understøtter.</translation>
     </message>
     <message>
         <source>The disk is full. Syncing has been paused.</source>
-        <translation>The disk is full. Syncing has been paused.</translation>
+        <translation>Disken er fuld. Synkroniseringen er sat på pause.</translation>
     </message>
     <message>
         <source>Download changes from the NAS only</source>
-        <translation>Download changes from the NAS only</translation>
+        <translation>Download kun ændringer fra din NAS</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be updated. Please try again later.</source>
-        <translation>Nimbulo Pelora could not be updated. Please try again later.</translation>
+        <translation>Nimbulo Pelora kunne ikke opdateres. Prøv igen senere.</translation>
     </message>
     <message>
         <source>You are already connected to this NAS.</source>
-        <translation>You are already connected to this NAS.</translation>
+        <translation>Du har allerede forbindelse til denne NAS.</translation>
     </message>
     <message>
         <source>Changes on network drives may be detected with a delay.</source>
-        <translation>Changes on network drives may be detected with a delay.</translation>
+        <translation>Ændringer på netværksdrev registreres muligvis med forsinkelse.</translation>
     </message>
     <message>
         <source>The SSL certificate of %1 has changed.</source>
-        <translation>The SSL certificate of %1 has changed.</translation>
+        <translation>SSL-certifikatet for %1 er ændret.</translation>
     </message>
     <message>
         <source>A secure connection to the server cannot be established.</source>
-        <translation>A secure connection to the server cannot be established.</translation>
+        <translation>Der kan ikke oprettes en sikker forbindelse til serveren.</translation>
     </message>
     <message>
         <source>Welcome!</source>
-        <translation>Welcome!</translation>
+        <translation>Velkommen!</translation>
     </message>
     <message>
         <source>Files in your home folder on the NAS are now in %1.</source>
-        <translation>Files in your home folder on the NAS are now in %1.</translation>
+        <translation>Filerne i din hjemmemappe på din NAS ligger nu i %1.</translation>
     </message>
     <message>
         <source>Files in your home folder on the server are now in %1.</source>
-        <translation>Files in your home folder on the server are now in %1.</translation>
+        <translation>Filerne i din hjemmemappe på serveren ligger nu i %1.</translation>
     </message>
     <message>
         <source>The disk is full</source>
-        <translation>The disk is full</translation>
+        <translation>Disken er fuld</translation>
     </message>
     <message>
         <source>The server&apos;s sync service is outdated</source>
-        <translation>The server&apos;s sync service is outdated</translation>
+        <translation>Synkroniseringstjenesten på serveren er forældet</translation>
     </message>
     <message>
         <source>The shared folder no longer exists.</source>
-        <translation>The shared folder no longer exists.</translation>
+        <translation>Den delte mappe findes ikke længere.</translation>
     </message>
     <message>
         <source>Click to update to Nimbulo Pelora %1</source>
-        <translation>Click to update to Nimbulo Pelora %1</translation>
+        <translation>Klik for at opdatere til Nimbulo Pelora %1</translation>
     </message>
     <message>
         <source>This version of Nimbulo Pelora is too old to connect to the server. Please update it.</source>
-        <translation>This version of Nimbulo Pelora is too old to connect to the server. Please update it.</translation>
+        <translation>Denne version af Nimbulo Pelora er for gammel til at oprette forbindelse til serveren. Opdater programmet.</translation>
     </message>
 </context>
 </TS>

@@ -5,99 +5,99 @@
     <name>global</name>
     <message>
         <source>Edit</source>
-        <translation>Edit</translation>
+        <translation>Rediger</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <translation>Unlink</translation>
+        <translation>Fjern tilknytning</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation>Add</translation>
+        <translation>Legg til</translation>
     </message>
     <message>
         <source>Choose Another Folder</source>
-        <translation>Choose Another Folder</translation>
+        <translation>Velg en annen mappe</translation>
     </message>
     <message>
         <source>Merge</source>
-        <translation>Merge</translation>
+        <translation>Slå sammen</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation>Error</translation>
+        <translation>Feil</translation>
     </message>
     <message>
         <source>A conflict occurred while syncing this file.</source>
-        <translation>A conflict occurred while syncing this file.</translation>
+        <translation>Det oppstod en konflikt under synkroniseringen av denne filen.</translation>
     </message>
     <message>
         <source>Invalid parameter.</source>
-        <translation>Invalid parameter.</translation>
+        <translation>Ugyldig parameter.</translation>
     </message>
     <message>
         <source>A network error occurred. Please check your network connection and try again.</source>
-        <translation>A network error occurred. Please check your network connection and try again.</translation>
+        <translation>Det oppstod en nettverksfeil. Kontroller nettverkstilkoblingen, og prøv på nytt.</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>Finish</translation>
+        <translation>Fullfør</translation>
     </message>
     <message>
         <source>Local Storage</source>
-        <translation>Local Storage</translation>
+        <translation>Lokal lagring</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation>Reconnect</translation>
+        <translation>Koble til på nytt</translation>
     </message>
     <message>
         <source>About</source>
-        <translation>About</translation>
+        <translation>Om</translation>
     </message>
     <message>
         <source>Testing connection...</source>
-        <translation>Testing connection...</translation>
+        <translation>Tester tilkoblingen...</translation>
     </message>
     <message>
         <source>The selected folder is not empty. Files in it will be merged with the files on the server.</source>
-        <translation>The selected folder is not empty. Files in it will be merged with the files on the server.</translation>
+        <translation>Den valgte mappen er ikke tom. Filene i den blir slått sammen med filene på serveren.</translation>
     </message>
     <message>
         <source>Checking your account...</source>
-        <translation>Checking your account...</translation>
+        <translation>Kontrollerer kontoen din...</translation>
     </message>
     <message>
         <source>Connected successfully.</source>
-        <translation>Connected successfully.</translation>
+        <translation>Tilkoblingen er opprettet.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; already exists. Do you want to merge its contents?</source>
-        <translation>The folder &quot;%1&quot; already exists. Do you want to merge its contents?</translation>
+        <translation>Mappen «%1» finnes allerede. Vil du slå sammen innholdet?</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora automatically when I log in</source>
-        <translation>Start Nimbulo Pelora automatically when I log in</translation>
+        <translation>Start Nimbulo Pelora automatisk når jeg logger på</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Settings</translation>
+        <translation>Innstillinger</translation>
     </message>
     <message>
         <source>Incorrect username or password.</source>
-        <translation>Incorrect username or password.</translation>
+        <translation>Feil brukernavn eller passord.</translation>
     </message>
     <message>
         <source>Change Sync Folder</source>
-        <translation>Change Sync Folder</translation>
+        <translation>Endre synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Folder Not Empty</source>
-        <translation>Folder Not Empty</translation>
+        <translation>Mappen er ikke tom</translation>
     </message>
     <message>
         <source>Folder Path</source>
-        <translation>Folder Path</translation>
+        <translation>Mappebane</translation>
     </message>
     <message>
         <source>ID</source>
@@ -105,39 +105,39 @@
     </message>
     <message>
         <source>Name</source>
-        <translation>Name</translation>
+        <translation>Navn</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation>Value</translation>
+        <translation>Verdi</translation>
     </message>
     <message>
         <source>Get Started with Nimbulo Pelora</source>
-        <translation>Get Started with Nimbulo Pelora</translation>
+        <translation>Kom i gang med Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Avslutt</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation>Pause</translation>
+        <translation>Sett på pause</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation>Resume</translation>
+        <translation>Gjenoppta</translation>
     </message>
     <message>
         <source>Recently Updated Files</source>
-        <translation>Recently Updated Files</translation>
+        <translation>Nylig oppdaterte filer</translation>
     </message>
     <message>
         <source>Up to date</source>
-        <translation>Up to date</translation>
+        <translation>Oppdatert</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation>Help</translation>
+        <translation>Hjelp</translation>
     </message>
     <message>
         <source>OK</source>
@@ -145,171 +145,171 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation>Delete</translation>
+        <translation>Slett</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation>Back</translation>
+        <translation>Tilbake</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation>Next</translation>
+        <translation>Neste</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Cancel</translation>
+        <translation>Avbryt</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation>Version</translation>
+        <translation>Versjon</translation>
     </message>
     <message>
         <source>Open Nimbulo Pelora</source>
-        <translation>Open Nimbulo Pelora</translation>
+        <translation>Åpne Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Detecting changes...</source>
-        <translation>Detecting changes...</translation>
+        <translation>Oppdager endringer...</translation>
     </message>
     <message>
         <source>Disconnected from the server.</source>
-        <translation>Disconnected from the server.</translation>
+        <translation>Frakoblet fra serveren.</translation>
     </message>
     <message>
         <source>Enable Sync</source>
-        <translation>Enable Sync</translation>
+        <translation>Aktiver synkronisering</translation>
     </message>
     <message>
         <source>Authentication failed</source>
-        <translation>Authentication failed</translation>
+        <translation>Godkjenningen mislyktes</translation>
     </message>
     <message>
         <source>Direct connection</source>
-        <translation>Direct connection</translation>
+        <translation>Direkte tilkobling</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation>Local network</translation>
+        <translation>Lokalt nettverk</translation>
     </message>
     <message>
         <source>Checking connection...</source>
-        <translation>Checking connection...</translation>
+        <translation>Kontrollerer tilkoblingen...</translation>
     </message>
     <message>
         <source>Relay connection</source>
-        <translation>Relay connection</translation>
+        <translation>Relétilkobling</translation>
     </message>
     <message>
         <source>Internet</source>
-        <translation>Internet</translation>
+        <translation>Internett</translation>
     </message>
     <message>
         <source>Unable to connect automatically because of a system error.</source>
-        <translation>Unable to connect automatically because of a system error.</translation>
+        <translation>Kan ikke koble til automatisk på grunn av en systemfeil.</translation>
     </message>
     <message>
         <source>Sharing links are disabled on the server. Please contact your administrator.</source>
-        <translation>Sharing links are disabled on the server. Please contact your administrator.</translation>
+        <translation>Delingslenker er deaktivert på serveren. Kontakt administratoren.</translation>
     </message>
     <message>
         <source>%1 files updated</source>
-        <translation>%1 files updated</translation>
+        <translation>%1 filer er oppdatert</translation>
     </message>
     <message>
         <source>You have read-only permission for this folder. Local changes will not be uploaded.</source>
-        <translation>You have read-only permission for this folder. Local changes will not be uploaded.</translation>
+        <translation>Du har bare lesetilgang til denne mappen. Lokale endringer blir ikke lastet opp.</translation>
     </message>
     <message>
         <source>Your storage quota on the server is full. Free up some space to continue syncing.</source>
-        <translation>Your storage quota on the server is full. Free up some space to continue syncing.</translation>
+        <translation>Lagringskvoten din på serveren er full. Frigjør plass for å fortsette synkroniseringen.</translation>
     </message>
     <message>
         <source>Connection Type</source>
-        <translation>Connection Type</translation>
+        <translation>Tilkoblingstype</translation>
     </message>
     <message>
         <source>Connection Information</source>
-        <translation>Connection Information</translation>
+        <translation>Tilkoblingsinformasjon</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation>Change</translation>
+        <translation>Endre</translation>
     </message>
     <message>
         <source>Please select a folder.</source>
-        <translation>Please select a folder.</translation>
+        <translation>Velg en mappe.</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation>Information</translation>
+        <translation>Informasjon</translation>
     </message>
     <message>
         <source>Unable to connect automatically. Please check the server address and try again.</source>
-        <translation>Unable to connect automatically. Please check the server address and try again.</translation>
+        <translation>Kan ikke koble til automatisk. Kontroller serveradressen, og prøv på nytt.</translation>
     </message>
     <message>
         <source>Shared Folders</source>
-        <translation>Shared Folders</translation>
+        <translation>Delte mapper</translation>
     </message>
     <message>
         <source>Your changes have not been saved. Do you want to discard them?</source>
-        <translation>Your changes have not been saved. Do you want to discard them?</translation>
+        <translation>Endringene er ikke lagret. Vil du forkaste dem?</translation>
     </message>
     <message>
         <source>Quota full</source>
-        <translation>Quota full</translation>
+        <translation>Kvoten er full</translation>
     </message>
     <message>
         <source>Local Folder</source>
-        <translation>Local Folder</translation>
+        <translation>Lokal mappe</translation>
     </message>
     <message>
         <source>Unable to enable syncing for this shared folder.</source>
-        <translation>Unable to enable syncing for this shared folder.</translation>
+        <translation>Kan ikke aktivere synkronisering for denne delte mappen.</translation>
     </message>
     <message>
         <source>This folder conflicts with another sync task.</source>
-        <translation>This folder conflicts with another sync task.</translation>
+        <translation>Denne mappen er i konflikt med en annen synkroniseringsoppgave.</translation>
     </message>
     <message>
         <source>You have reached the maximum number of synced shared folders.</source>
-        <translation>You have reached the maximum number of synced shared folders.</translation>
+        <translation>Du har nådd maksimalt antall synkroniserte delte mapper.</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation>Applying settings...</translation>
+        <translation>Bruker innstillingene...</translation>
     </message>
     <message>
         <source>Please enter a port number between 1 and 65535.</source>
-        <translation>Please enter a port number between 1 and 65535.</translation>
+        <translation>Angi et portnummer mellom 1 og 65535.</translation>
     </message>
     <message>
         <source>Shared Folder</source>
-        <translation>Shared Folder</translation>
+        <translation>Delt mappe</translation>
     </message>
     <message>
         <source>Please enter the proxy server address and port.</source>
-        <translation>Please enter the proxy server address and port.</translation>
+        <translation>Angi adressen og porten til proxyserveren.</translation>
     </message>
     <message>
         <source>Please enter your username.</source>
-        <translation>Please enter your username.</translation>
+        <translation>Angi brukernavnet ditt.</translation>
     </message>
     <message>
         <source>Manual proxy configuration</source>
-        <translation>Manual proxy configuration</translation>
+        <translation>Manuell proxykonfigurasjon</translation>
     </message>
     <message>
         <source>No proxy</source>
-        <translation>No proxy</translation>
+        <translation>Ingen proxy</translation>
     </message>
     <message>
         <source>Use system proxy settings</source>
-        <translation>Use system proxy settings</translation>
+        <translation>Bruk systemets proxyinnstillinger</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation>Password</translation>
+        <translation>Passord</translation>
     </message>
     <message>
         <source>Port</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>No changes to apply.</source>
-        <translation>No changes to apply.</translation>
+        <translation>Ingen endringer å bruke.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -329,987 +329,987 @@
     </message>
     <message>
         <source>Username</source>
-        <translation>Username</translation>
+        <translation>Brukernavn</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation>Apply</translation>
+        <translation>Bruk</translation>
     </message>
     <message>
         <source>Proxy server requires authentication</source>
-        <translation>Proxy server requires authentication</translation>
+        <translation>Proxyserveren krever godkjenning</translation>
     </message>
     <message>
         <source>Updating files...</source>
-        <translation>Updating files...</translation>
+        <translation>Oppdaterer filer...</translation>
     </message>
     <message>
         <source>Conflicting changes are kept in both copies: the local copy is renamed with the computer name.</source>
-        <translation>Conflicting changes are kept in both copies: the local copy is renamed with the computer name.</translation>
+        <translation>Motstridende endringer beholdes i begge kopiene: den lokale kopien får datamaskinnavnet i filnavnet.</translation>
     </message>
     <message>
         <source>Server Address</source>
-        <translation>Server Address</translation>
+        <translation>Serveradresse</translation>
     </message>
     <message>
         <source>Enter the server&apos;s IP address, host name or relay ID.</source>
-        <translation>Enter the server&apos;s IP address, host name or relay ID.</translation>
+        <translation>Angi IP-adressen, vertsnavnet eller relé-ID-en til serveren.</translation>
     </message>
     <message>
         <source>The server&apos;s sync service is outdated. Please ask your administrator to update it.</source>
-        <translation>The server&apos;s sync service is outdated. Please ask your administrator to update it.</translation>
+        <translation>Synkroniseringstjenesten på serveren er utdatert. Be administratoren om å oppdatere den.</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
-        <translation>Show desktop notifications</translation>
+        <translation>Vis skrivebordsvarsler</translation>
     </message>
     <message>
         <source>Show sync status on file icons</source>
-        <translation>Show sync status on file icons</translation>
+        <translation>Vis synkroniseringsstatus på filikoner</translation>
     </message>
     <message>
         <source>Encrypt the connection with SSL</source>
-        <translation>Encrypt the connection with SSL</translation>
+        <translation>Krypter tilkoblingen med SSL</translation>
     </message>
     <message>
         <source>General</source>
-        <translation>General</translation>
+        <translation>Generelt</translation>
     </message>
     <message>
         <source>Use a monochrome tray icon</source>
-        <translation>Use a monochrome tray icon</translation>
+        <translation>Bruk et ensfarget ikon i varslingsområdet</translation>
     </message>
     <message>
         <source>Sync problem</source>
-        <translation>Sync problem</translation>
+        <translation>Synkroniseringsproblem</translation>
     </message>
     <message>
         <source>%1 has shared &quot;%2&quot; with you.</source>
-        <translation>%1 has shared &quot;%2&quot; with you.</translation>
+        <translation>%1 har delt «%2» med deg.</translation>
     </message>
     <message>
         <source>New shared folder</source>
-        <translation>New shared folder</translation>
+        <translation>Ny delt mappe</translation>
     </message>
     <message>
         <source>Checking files...</source>
-        <translation>Checking files...</translation>
+        <translation>Kontrollerer filer...</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation>Continue</translation>
+        <translation>Fortsett</translation>
     </message>
     <message>
         <source>Selective Sync</source>
-        <translation>Selective Sync</translation>
+        <translation>Selektiv synkronisering</translation>
     </message>
     <message>
         <source>Files and folders matching these rules will not be synced.</source>
-        <translation>Files and folders matching these rules will not be synced.</translation>
+        <translation>Filer og mapper som samsvarer med disse reglene, blir ikke synkronisert.</translation>
     </message>
     <message>
         <source>File extensions:</source>
-        <translation>File extensions:</translation>
+        <translation>Filtyper:</translation>
     </message>
     <message>
         <source>Updating Nimbulo Pelora...</source>
-        <translation>Updating Nimbulo Pelora...</translation>
+        <translation>Oppdaterer Nimbulo Pelora...</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation>Update</translation>
+        <translation>Oppdater</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%1 of %2</translation>
+        <translation>%1 av %2</translation>
     </message>
     <message>
         <source>Are you sure you want to stop syncing &quot;%1&quot;?</source>
-        <translation>Are you sure you want to stop syncing &quot;%1&quot;?</translation>
+        <translation>Er du sikker på at du vil slutte å synkronisere «%1»?</translation>
     </message>
     <message>
         <source>Sharing disabled</source>
-        <translation>Sharing disabled</translation>
+        <translation>Deling er deaktivert</translation>
     </message>
     <message>
         <source>Mount point not supported</source>
-        <translation>Mount point not supported</translation>
+        <translation>Monteringspunkt støttes ikke</translation>
     </message>
     <message>
         <source>Unable to remove this sync task.</source>
-        <translation>Unable to remove this sync task.</translation>
+        <translation>Kan ikke fjerne denne synkroniseringsoppgaven.</translation>
     </message>
     <message>
         <source>The new language will be applied after Nimbulo Pelora restarts.</source>
-        <translation>The new language will be applied after Nimbulo Pelora restarts.</translation>
+        <translation>Det nye språket tas i bruk når Nimbulo Pelora startes på nytt.</translation>
     </message>
     <message>
         <source>The local disk is full. Free up some space to continue syncing.</source>
-        <translation>The local disk is full. Free up some space to continue syncing.</translation>
+        <translation>Den lokale disken er full. Frigjør plass for å fortsette synkroniseringen.</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink from this server? Your local files will be kept.</source>
-        <translation>Are you sure you want to unlink from this server? Your local files will be kept.</translation>
+        <translation>Er du sikker på at du vil fjerne tilknytningen til denne serveren? De lokale filene dine beholdes.</translation>
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Preparing...</translation>
+        <translation>Forbereder...</translation>
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Uploading...</translation>
+        <translation>Laster opp...</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation>System default</translation>
+        <translation>Systemstandard</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation>Language:</translation>
+        <translation>Språk:</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Loading...</translation>
+        <translation>Laster inn...</translation>
     </message>
     <message>
         <source>Syncing %1 files</source>
-        <translation>Syncing %1 files</translation>
+        <translation>Synkroniserer %1 filer</translation>
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Downloading...</translation>
+        <translation>Laster ned...</translation>
     </message>
     <message>
         <source>Advanced Settings</source>
-        <translation>Advanced Settings</translation>
+        <translation>Avanserte innstillinger</translation>
     </message>
     <message>
         <source>File names:</source>
-        <translation>File names:</translation>
+        <translation>Filnavn:</translation>
     </message>
     <message>
         <source>Blocked Files</source>
-        <translation>Blocked Files</translation>
+        <translation>Blokkerte filer</translation>
     </message>
     <message>
         <source>The local sync database is damaged. Please relink this sync task.</source>
-        <translation>The local sync database is damaged. Please relink this sync task.</translation>
+        <translation>Den lokale synkroniseringsdatabasen er skadet. Knytt til denne synkroniseringsoppgaven på nytt.</translation>
     </message>
     <message>
         <source>Maximum file size:</source>
-        <translation>Maximum file size:</translation>
+        <translation>Maksimal filstørrelse:</translation>
     </message>
     <message>
         <source>Filter files</source>
-        <translation>Filter files</translation>
+        <translation>Filtrer filer</translation>
     </message>
     <message>
         <source>Folder Name</source>
-        <translation>Folder Name</translation>
+        <translation>Mappenavn</translation>
     </message>
     <message>
         <source>Excluded file types:</source>
-        <translation>Excluded file types:</translation>
+        <translation>Ekskluderte filtyper:</translation>
     </message>
     <message>
         <source>Folders you unselect will be removed from this computer but kept on the server.</source>
-        <translation>Folders you unselect will be removed from this computer but kept on the server.</translation>
+        <translation>Mapper du fjerner merket for, fjernes fra denne datamaskinen, men beholdes på serveren.</translation>
     </message>
     <message>
         <source>Merge mode</source>
-        <translation>Merge mode</translation>
+        <translation>Sammenslåingsmodus</translation>
     </message>
     <message>
         <source>Sync Mode</source>
-        <translation>Sync Mode</translation>
+        <translation>Synkroniseringsmodus</translation>
     </message>
     <message>
         <source>Edit Connection</source>
-        <translation>Edit Connection</translation>
+        <translation>Rediger tilkobling</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation>Paused</translation>
+        <translation>Satt på pause</translation>
     </message>
     <message>
         <source>A mount point cannot be used as a sync folder.</source>
-        <translation>A mount point cannot be used as a sync folder.</translation>
+        <translation>Et monteringspunkt kan ikke brukes som synkroniseringsmappe.</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation>Destination</translation>
+        <translation>Mål</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation>Time</translation>
+        <translation>Tidspunkt</translation>
     </message>
     <message>
         <source>The download was cancelled.</source>
-        <translation>The download was cancelled.</translation>
+        <translation>Nedlastingen ble avbrutt.</translation>
     </message>
     <message>
         <source>Start Now</source>
-        <translation>Start Now</translation>
+        <translation>Start nå</translation>
     </message>
     <message>
         <source>You do not have permission to perform this operation.</source>
-        <translation>You do not have permission to perform this operation.</translation>
+        <translation>Du har ikke tillatelse til å utføre denne handlingen.</translation>
     </message>
     <message>
         <source>Manage</source>
-        <translation>Manage</translation>
+        <translation>Administrer</translation>
     </message>
     <message>
         <source>Your storage quota is full</source>
-        <translation>Your storage quota is full</translation>
+        <translation>Lagringskvoten din er full</translation>
     </message>
     <message>
         <source>The local disk is full</source>
-        <translation>The local disk is full</translation>
+        <translation>Den lokale disken er full</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation>Permission denied</translation>
+        <translation>Ingen tilgang</translation>
     </message>
     <message>
         <source>Version mismatch</source>
-        <translation>Version mismatch</translation>
+        <translation>Versjonene samsvarer ikke</translation>
     </message>
     <message>
         <source>Unable to get your account information from the server.</source>
-        <translation>Unable to get your account information from the server.</translation>
+        <translation>Kan ikke hente kontoinformasjonen din fra serveren.</translation>
     </message>
     <message>
         <source>Sync problem detected</source>
-        <translation>Sync problem detected</translation>
+        <translation>Synkroniseringsproblem oppdaget</translation>
     </message>
     <message>
         <source>Computer Name</source>
-        <translation>Computer Name</translation>
+        <translation>Datamaskinnavn</translation>
     </message>
     <message>
         <source>The connection is unstable. Retrying...</source>
-        <translation>The connection is unstable. Retrying...</translation>
+        <translation>Tilkoblingen er ustabil. Prøver på nytt...</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>Downloading %1...</translation>
+        <translation>Laster ned %1...</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation>Connecting...</translation>
+        <translation>Kobler til...</translation>
     </message>
     <message>
         <source>Retrying sync...</source>
-        <translation>Retrying sync...</translation>
+        <translation>Prøver å synkronisere på nytt...</translation>
     </message>
     <message>
         <source>Security Warning</source>
-        <translation>Security Warning</translation>
+        <translation>Sikkerhetsadvarsel</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation>Enabled</translation>
+        <translation>Aktivert</translation>
     </message>
     <message>
         <source>Download completed.</source>
-        <translation>Download completed.</translation>
+        <translation>Nedlastingen er fullført.</translation>
     </message>
     <message>
         <source>Continue Anyway</source>
-        <translation>Continue Anyway</translation>
+        <translation>Fortsett likevel</translation>
     </message>
     <message>
         <source>Filter Rules</source>
-        <translation>Filter Rules</translation>
+        <translation>Filterregler</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation>Action</translation>
+        <translation>Handling</translation>
     </message>
     <message>
         <source>File Name</source>
-        <translation>File Name</translation>
+        <translation>Filnavn</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation>Size</translation>
+        <translation>Størrelse</translation>
     </message>
     <message>
         <source>No.</source>
-        <translation>No.</translation>
+        <translation>Nr.</translation>
     </message>
     <message>
         <source>Browse Previous Versions</source>
-        <translation>Browse Previous Versions</translation>
+        <translation>Bla gjennom tidligere versjoner</translation>
     </message>
     <message>
         <source>Disabled</source>
-        <translation>Disabled</translation>
+        <translation>Deaktivert</translation>
     </message>
     <message>
         <source>Stopping sync for &quot;%1&quot; will remove its local copy. Continue?</source>
-        <translation>Stopping sync for &quot;%1&quot; will remove its local copy. Continue?</translation>
+        <translation>Hvis du slutter å synkronisere «%1», fjernes den lokale kopien. Vil du fortsette?</translation>
     </message>
     <message>
         <source>Secure Connection</source>
-        <translation>Secure Connection</translation>
+        <translation>Sikker tilkobling</translation>
     </message>
     <message>
         <source>Choose the folder on this computer where your files will be synced.</source>
-        <translation>Choose the folder on this computer where your files will be synced.</translation>
+        <translation>Velg mappen på denne datamaskinen som filene dine skal synkroniseres til.</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation>and %1 more</translation>
+        <translation>og %1 til</translation>
     </message>
     <message>
         <source>Sharing</source>
-        <translation>Sharing</translation>
+        <translation>Deling</translation>
     </message>
     <message>
         <source>Unable to download the file.</source>
-        <translation>Unable to download the file.</translation>
+        <translation>Kan ikke laste ned filen.</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation>Overview</translation>
+        <translation>Oversikt</translation>
     </message>
     <message>
         <source>The server has been replaced or reset</source>
-        <translation>The server has been replaced or reset</translation>
+        <translation>Serveren er byttet ut eller tilbakestilt</translation>
     </message>
     <message>
         <source>Certificate verification failed</source>
-        <translation>Certificate verification failed</translation>
+        <translation>Sertifikatet kunne ikke bekreftes</translation>
     </message>
     <message>
         <source>Syncing...</source>
-        <translation>Syncing...</translation>
+        <translation>Synkroniserer...</translation>
     </message>
     <message>
         <source>The server&apos;s SSL certificate could not be verified. The connection may not be secure.</source>
-        <translation>The server&apos;s SSL certificate could not be verified. The connection may not be secure.</translation>
+        <translation>SSL-sertifikatet til serveren kunne ikke bekreftes. Tilkoblingen er kanskje ikke sikker.</translation>
     </message>
     <message>
         <source>Finished</source>
-        <translation>Finished</translation>
+        <translation>Fullført</translation>
     </message>
     <message>
         <source>This sync task is inactive. Click to resume it.</source>
-        <translation>This sync task is inactive. Click to resume it.</translation>
+        <translation>Denne synkroniseringsoppgaven er inaktiv. Klikk for å gjenoppta den.</translation>
     </message>
     <message>
         <source>Inactive</source>
-        <translation>Inactive</translation>
+        <translation>Inaktiv</translation>
     </message>
     <message>
         <source>This file cannot be downloaded right now.</source>
-        <translation>This file cannot be downloaded right now.</translation>
+        <translation>Denne filen kan ikke lastes ned akkurat nå.</translation>
     </message>
     <message>
         <source>Unable to list the previous versions of this file.</source>
-        <translation>Unable to list the previous versions of this file.</translation>
+        <translation>Kan ikke vise tidligere versjoner av denne filen.</translation>
     </message>
     <message>
         <source>Unable to create a sharing link for this file.</source>
-        <translation>Unable to create a sharing link for this file.</translation>
+        <translation>Kan ikke opprette en delingslenke for denne filen.</translation>
     </message>
     <message>
         <source>Standby</source>
-        <translation>Standby</translation>
+        <translation>Ventemodus</translation>
     </message>
     <message>
         <source>Double-click the tray icon to open the sync folder</source>
-        <translation>Double-click the tray icon to open the sync folder</translation>
+        <translation>Dobbeltklikk på ikonet i varslingsområdet for å åpne synkroniseringsmappen</translation>
     </message>
     <message>
         <source>Indexing folder...</source>
-        <translation>Indexing folder...</translation>
+        <translation>Indekserer mappen...</translation>
     </message>
     <message>
         <source>Welcome to the Nimbulo Pelora Setup Wizard</source>
-        <translation>Welcome to the Nimbulo Pelora Setup Wizard</translation>
+        <translation>Velkommen til installasjonsveiviseren for Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be initialized.</source>
-        <translation>Nimbulo Pelora could not be initialized.</translation>
+        <translation>Nimbulo Pelora kunne ikke initialiseres.</translation>
     </message>
     <message>
         <source>&lt; Back</source>
-        <translation>&lt; Back</translation>
+        <translation>&lt; Tilbake</translation>
     </message>
     <message>
         <source>Ready to Install Nimbulo Pelora</source>
-        <translation>Ready to Install Nimbulo Pelora</translation>
+        <translation>Klar til å installere Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
-        <translation>Some files that need to be updated are currently in use.</translation>
+        <translation>Noen filer som må oppdateres, er i bruk.</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation>Yes</translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>End-User License Agreement</source>
-        <translation>End-User License Agreement</translation>
+        <translation>Lisensavtale for sluttbrukere</translation>
     </message>
     <message>
         <source>Completed the Nimbulo Pelora Setup Wizard</source>
-        <translation>Completed the Nimbulo Pelora Setup Wizard</translation>
+        <translation>Installasjonsveiviseren for Nimbulo Pelora er fullført</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation>Print</translation>
+        <translation>Skriv ut</translation>
     </message>
     <message>
         <source>Do not close applications. A reboot will be required.</source>
-        <translation>Do not close applications. A reboot will be required.</translation>
+        <translation>Ikke lukk programmene. Datamaskinen må startes på nytt.</translation>
     </message>
     <message>
         <source>Setup Error</source>
-        <translation>Setup Error</translation>
+        <translation>Installasjonsfeil</translation>
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation>Click the Finish button to exit the Setup Wizard.</translation>
+        <translation>Klikk på Fullfør for å avslutte installasjonsveiviseren.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been installed successfully.</source>
-        <translation>Nimbulo Pelora has been installed successfully.</translation>
+        <translation>Nimbulo Pelora er installert.</translation>
     </message>
     <message>
         <source>Launch Nimbulo Pelora</source>
-        <translation>Launch Nimbulo Pelora</translation>
+        <translation>Start Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Change, repair, or remove installation</source>
-        <translation>Change, repair, or remove installation</translation>
+        <translation>Endre, reparer eller fjern installasjonen</translation>
     </message>
     <message>
         <source>Lets you change the way features are installed.</source>
-        <translation>Lets you change the way features are installed.</translation>
+        <translation>Lar deg endre hvordan funksjonene installeres.</translation>
     </message>
     <message>
         <source>The sync folder is on a volume that is not mounted.</source>
-        <translation>The sync folder is on a volume that is not mounted.</translation>
+        <translation>Synkroniseringsmappen ligger på et volum som ikke er montert.</translation>
     </message>
     <message>
         <source>The file version is invalid.</source>
-        <translation>The file version is invalid.</translation>
+        <translation>Filversjonen er ugyldig.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation>Remove</translation>
+        <translation>Fjern</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the Nimbulo Pelora installation?</source>
-        <translation>Are you sure you want to cancel the Nimbulo Pelora installation?</translation>
+        <translation>Er du sikker på at du vil avbryte installasjonen av Nimbulo Pelora?</translation>
     </message>
     <message>
         <source>Download only</source>
-        <translation>Download only</translation>
+        <translation>Bare nedlasting</translation>
     </message>
     <message>
         <source>You have read-only access to this folder. Changes you make here are not uploaded.</source>
-        <translation>You have read-only access to this folder. Changes you make here are not uploaded.</translation>
+        <translation>Du har bare lesetilgang til denne mappen. Endringer du gjør her, blir ikke lastet opp.</translation>
     </message>
     <message>
         <source>Please read the following license agreement carefully.</source>
-        <translation>Please read the following license agreement carefully.</translation>
+        <translation>Les følgende lisensavtale nøye.</translation>
     </message>
     <message>
         <source>Please read the license agreement and accept it to continue.</source>
-        <translation>Please read the license agreement and accept it to continue.</translation>
+        <translation>Les lisensavtalen, og godta den for å fortsette.</translation>
     </message>
     <message>
         <source>Cancel Setup</source>
-        <translation>Cancel Setup</translation>
+        <translation>Avbryt installasjonen</translation>
     </message>
     <message>
         <source>Nimbulo Pelora keeps the files on this computer in sync with your NAS.</source>
-        <translation>Nimbulo Pelora keeps the files on this computer in sync with your NAS.</translation>
+        <translation>Nimbulo Pelora holder filene på denne datamaskinen synkronisert med NAS-en din.</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation>Ignore</translation>
+        <translation>Ignorer</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation>Install</translation>
+        <translation>Installer</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation>Read-only</translation>
+        <translation>Skrivebeskyttet</translation>
     </message>
     <message>
         <source>Next &gt;</source>
-        <translation>Next &gt;</translation>
+        <translation>Neste &gt;</translation>
     </message>
     <message>
         <source>No</source>
-        <translation>No</translation>
+        <translation>Nei</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation>Repair</translation>
+        <translation>Reparer</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation>Retry</translation>
+        <translation>Prøv på nytt</translation>
     </message>
     <message>
         <source>Sync Status</source>
-        <translation>Sync Status</translation>
+        <translation>Synkroniseringsstatus</translation>
     </message>
     <message>
         <source>The local sync folder &quot;%1&quot; cannot be found. It may have been moved or deleted.</source>
-        <translation>The local sync folder &quot;%1&quot; cannot be found. It may have been moved or deleted.</translation>
+        <translation>Finner ikke den lokale synkroniseringsmappen «%1». Den kan ha blitt flyttet eller slettet.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora Setup ended prematurely because of an error. Your system has not been modified.</source>
-        <translation>Nimbulo Pelora Setup ended prematurely because of an error. Your system has not been modified.</translation>
+        <translation>Installasjonen av Nimbulo Pelora ble avsluttet for tidlig på grunn av en feil. Systemet er ikke endret.</translation>
     </message>
     <message>
         <source>To install this program at a later time, run the Setup Wizard again. Click Finish to exit.</source>
-        <translation>To install this program at a later time, run the Setup Wizard again. Click Finish to exit.</translation>
+        <translation>Hvis du vil installere programmet senere, kjører du installasjonsveiviseren på nytt. Klikk på Fullfør for å avslutte.</translation>
     </message>
     <message>
         <source>Setup Ended Prematurely</source>
-        <translation>Setup Ended Prematurely</translation>
+        <translation>Installasjonen ble avsluttet for tidlig</translation>
     </message>
     <message>
         <source>Close all applications and try to restart them.</source>
-        <translation>Close all applications and try to restart them.</translation>
+        <translation>Lukk alle programmer, og prøv å starte dem på nytt.</translation>
     </message>
     <message>
         <source>Close the applications that use files Setup needs to update.</source>
-        <translation>Close the applications that use files Setup needs to update.</translation>
+        <translation>Lukk programmene som bruker filer installasjonsprogrammet må oppdatere.</translation>
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</source>
-        <translation>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</translation>
+        <translation>Følgende programmer bruker filer som installasjonsprogrammet må oppdatere. Lukk dem, og klikk på Prøv på nytt for å fortsette.</translation>
     </message>
     <message>
         <source>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts and registry entries.</source>
-        <translation>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts and registry entries.</translation>
+        <translation>Reparerer feil i den siste installasjonen ved å rette opp manglende og skadede filer, snarveier og registeroppføringer.</translation>
     </message>
     <message>
         <source>The following applications are using files that need to be updated.\nClose them, or let Setup close them and attempt to restart them.</source>
-        <translation>The following applications are using files that need to be updated.\nClose them, or let Setup close them and attempt to restart them.</translation>
+        <translation>Følgende programmer bruker filer som må oppdateres.\nLukk dem, eller la installasjonsprogrammet lukke dem og prøve å starte dem på nytt.</translation>
     </message>
     <message>
         <source>Files in Use</source>
-        <translation>Files in Use</translation>
+        <translation>Filer i bruk</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has no independent features to select.</source>
-        <translation>Nimbulo Pelora has no independent features to select.</translation>
+        <translation>Nimbulo Pelora har ingen uavhengige funksjoner å velge.</translation>
     </message>
     <message>
         <source>Change the installed features</source>
-        <translation>Change the installed features</translation>
+        <translation>Endre de installerte funksjonene</translation>
     </message>
     <message>
         <source>Select the operation you wish to perform.</source>
-        <translation>Select the operation you wish to perform.</translation>
+        <translation>Velg handlingen du vil utføre.</translation>
     </message>
     <message>
         <source>Removes Nimbulo Pelora from your computer.</source>
-        <translation>Removes Nimbulo Pelora from your computer.</translation>
+        <translation>Fjerner Nimbulo Pelora fra datamaskinen.</translation>
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation>Remove the installation</translation>
+        <translation>Fjern installasjonen</translation>
     </message>
     <message>
         <source>Repair the installation</source>
-        <translation>Repair the installation</translation>
+        <translation>Reparer installasjonen</translation>
     </message>
     <message>
         <source>Select the operation you wish to perform.\nYour sync settings are kept.</source>
-        <translation>Select the operation you wish to perform.\nYour sync settings are kept.</translation>
+        <translation>Velg handlingen du vil utføre.\nSynkroniseringsinnstillingene dine beholdes.</translation>
     </message>
     <message>
         <source>The Setup Wizard allows you to change the way Nimbulo Pelora is installed, repair it, or remove it from your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>The Setup Wizard allows you to change the way Nimbulo Pelora is installed, repair it, or remove it from your computer. Click Next to continue or Cancel to exit.</translation>
+        <translation>Med installasjonsveiviseren kan du endre hvordan Nimbulo Pelora er installert, reparere programmet eller fjerne det fra datamaskinen. Klikk på Neste for å fortsette eller på Avbryt for å avslutte.</translation>
     </message>
     <message>
         <source>Welcome to Nimbulo Pelora Setup</source>
-        <translation>Welcome to Nimbulo Pelora Setup</translation>
+        <translation>Velkommen til installasjonen av Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Nimbulo Pelora.</source>
-        <translation>Please wait while the Setup Wizard installs Nimbulo Pelora.</translation>
+        <translation>Vent mens installasjonsveiviseren installerer Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>This may take a few minutes.</source>
-        <translation>This may take a few minutes.</translation>
+        <translation>Dette kan ta noen minutter.</translation>
     </message>
     <message>
         <source>Installing Nimbulo Pelora...</source>
-        <translation>Installing Nimbulo Pelora...</translation>
+        <translation>Installerer Nimbulo Pelora...</translation>
     </message>
     <message>
         <source>Installing Nimbulo Pelora</source>
-        <translation>Installing Nimbulo Pelora</translation>
+        <translation>Installerer Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</translation>
+        <translation>Klikk på Installer for å starte installasjonen. Klikk på Tilbake for å se gjennom eller endre installasjonsinnstillingene. Klikk på Avbryt for å avslutte veiviseren.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the installation.</source>
-        <translation>The Setup Wizard is ready to begin the installation.</translation>
+        <translation>Installasjonsveiviseren er klar til å starte installasjonen.</translation>
     </message>
     <message>
         <source>Click Install to begin.</source>
-        <translation>Click Install to begin.</translation>
+        <translation>Klikk på Installer for å starte.</translation>
     </message>
     <message>
         <source>Click Remove to remove Nimbulo Pelora from your computer. Your synced files are kept.</source>
-        <translation>Click Remove to remove Nimbulo Pelora from your computer. Your synced files are kept.</translation>
+        <translation>Klikk på Fjern for å fjerne Nimbulo Pelora fra datamaskinen. De synkroniserte filene dine beholdes.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to remove Nimbulo Pelora.</source>
-        <translation>The Setup Wizard is ready to remove Nimbulo Pelora.</translation>
+        <translation>Installasjonsveiviseren er klar til å fjerne Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Click Remove to begin.</source>
-        <translation>Click Remove to begin.</translation>
+        <translation>Klikk på Fjern for å starte.</translation>
     </message>
     <message>
         <source>Remove Nimbulo Pelora</source>
-        <translation>Remove Nimbulo Pelora</translation>
+        <translation>Fjern Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of Nimbulo Pelora.</source>
-        <translation>Click Repair to repair the installation of Nimbulo Pelora.</translation>
+        <translation>Klikk på Reparer for å reparere installasjonen av Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to repair Nimbulo Pelora.</source>
-        <translation>The Setup Wizard is ready to repair Nimbulo Pelora.</translation>
+        <translation>Installasjonsveiviseren er klar til å reparere Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Click Repair to begin.</source>
-        <translation>Click Repair to begin.</translation>
+        <translation>Klikk på Reparer for å starte.</translation>
     </message>
     <message>
         <source>Repair Nimbulo Pelora</source>
-        <translation>Repair Nimbulo Pelora</translation>
+        <translation>Reparer Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Nimbulo Pelora Setup was interrupted. Your system has not been modified.</source>
-        <translation>Nimbulo Pelora Setup was interrupted. Your system has not been modified.</translation>
+        <translation>Installasjonen av Nimbulo Pelora ble avbrutt. Systemet er ikke endret.</translation>
     </message>
     <message>
         <source>To install this program at a later time, run the installation again. Click Finish to exit the wizard.</source>
-        <translation>To install this program at a later time, run the installation again. Click Finish to exit the wizard.</translation>
+        <translation>Hvis du vil installere programmet senere, kjører du installasjonen på nytt. Klikk på Fullfør for å avslutte veiviseren.</translation>
     </message>
     <message>
         <source>Setup Interrupted</source>
-        <translation>Setup Interrupted</translation>
+        <translation>Installasjonen ble avbrutt</translation>
     </message>
     <message>
         <source>The Setup Wizard will install Nimbulo Pelora on your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>The Setup Wizard will install Nimbulo Pelora on your computer. Click Next to continue or Cancel to exit.</translation>
+        <translation>Installasjonsveiviseren installerer Nimbulo Pelora på datamaskinen. Klikk på Neste for å fortsette eller på Avbryt for å avslutte.</translation>
     </message>
     <message>
         <source>Change, repair or remove Nimbulo Pelora.</source>
-        <translation>Change, repair or remove Nimbulo Pelora.</translation>
+        <translation>Endre, reparer eller fjern Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Setup has finished.</source>
-        <translation>Setup has finished.</translation>
+        <translation>Installasjonen er fullført.</translation>
     </message>
     <message>
         <source>Setup was cancelled.</source>
-        <translation>Setup was cancelled.</translation>
+        <translation>Installasjonen ble avbrutt.</translation>
     </message>
     <message>
         <source>An error occurred during setup.</source>
-        <translation>An error occurred during setup.</translation>
+        <translation>Det oppstod en feil under installasjonen.</translation>
     </message>
     <message>
         <source>This wizard guides you through the installation.</source>
-        <translation>This wizard guides you through the installation.</translation>
+        <translation>Denne veiviseren tar deg gjennom installasjonen.</translation>
     </message>
     <message>
         <source>I accept the terms in the License Agreement</source>
-        <translation>I accept the terms in the License Agreement</translation>
+        <translation>Jeg godtar vilkårene i lisensavtalen</translation>
     </message>
     <message>
         <source>Connect to Another NAS</source>
-        <translation>Connect to Another NAS</translation>
+        <translation>Koble til en annen NAS</translation>
     </message>
     <message>
         <source>Sync History</source>
-        <translation>Sync History</translation>
+        <translation>Synkroniseringslogg</translation>
     </message>
     <message>
         <source>Sync enabled</source>
-        <translation>Sync enabled</translation>
+        <translation>Synkronisering er aktivert</translation>
     </message>
     <message>
         <source>Folders to Sync</source>
-        <translation>Folders to Sync</translation>
+        <translation>Mapper som skal synkroniseres</translation>
     </message>
     <message>
         <source>Your files, on every device.</source>
-        <translation>Your files, on every device.</translation>
+        <translation>Filene dine, på alle enheter.</translation>
     </message>
     <message>
         <source>Your files will now sync in the background. You can find them in %1.</source>
-        <translation>Your files will now sync in the background. You can find them in %1.</translation>
+        <translation>Filene dine synkroniseres nå i bakgrunnen. Du finner dem i %1.</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink the sync task &quot;%1&quot;? Files already on this computer are kept.</source>
-        <translation>Are you sure you want to unlink the sync task &quot;%1&quot;? Files already on this computer are kept.</translation>
+        <translation>Er du sikker på at du vil fjerne tilknytningen til synkroniseringsoppgaven «%1»? Filer som allerede ligger på denne datamaskinen, beholdes.</translation>
     </message>
     <message>
         <source>File Filters</source>
-        <translation>File Filters</translation>
+        <translation>Filfiltre</translation>
     </message>
     <message>
         <source>Created</source>
-        <translation>Created</translation>
+        <translation>Opprettet</translation>
     </message>
     <message>
         <source>Show an icon on files that are not synced</source>
-        <translation>Show an icon on files that are not synced</translation>
+        <translation>Vis et ikon på filer som ikke synkroniseres</translation>
     </message>
     <message>
         <source>The relay ID &quot;%1&quot; does not exist.</source>
-        <translation>The relay ID &quot;%1&quot; does not exist.</translation>
+        <translation>Relé-ID-en «%1» finnes ikke.</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation>Yesterday</translation>
+        <translation>I går</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation>Preferences</translation>
+        <translation>Innstillinger</translation>
     </message>
     <message>
         <source>Sync Tasks</source>
-        <translation>Sync Tasks</translation>
+        <translation>Synkroniseringsoppgaver</translation>
     </message>
     <message>
         <source>The server has changed. Please check your sync tasks.</source>
-        <translation>The server has changed. Please check your sync tasks.</translation>
+        <translation>Serveren er endret. Kontroller synkroniseringsoppgavene dine.</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server.</source>
-        <translation>The shared folder is not mounted on the server.</translation>
+        <translation>Den delte mappen er ikke montert på serveren.</translation>
     </message>
     <message>
         <source>The remote folder is not available. It may be on an encrypted shared folder that is not mounted.</source>
-        <translation>The remote folder is not available. It may be on an encrypted shared folder that is not mounted.</translation>
+        <translation>Den eksterne mappen er ikke tilgjengelig. Den kan ligge i en kryptert delt mappe som ikke er montert.</translation>
     </message>
     <message>
         <source>Files beginning with a dot</source>
-        <translation>Files beginning with a dot</translation>
+        <translation>Filer som begynner med punktum</translation>
     </message>
     <message>
         <source>Nimbulo Pelora %1 is already installed.\nDo you want to reinstall it?</source>
-        <translation>Nimbulo Pelora %1 is already installed.\nDo you want to reinstall it?</translation>
+        <translation>Nimbulo Pelora %1 er allerede installert.\nVil du installere programmet på nytt?</translation>
     </message>
     <message>
         <source>You need administrator privileges to install Nimbulo Pelora.\nPlease run the installer as an administrator.</source>
-        <translation>You need administrator privileges to install Nimbulo Pelora.\nPlease run the installer as an administrator.</translation>
+        <translation>Du må ha administratorrettigheter for å installere Nimbulo Pelora.\nKjør installasjonsprogrammet som administrator.</translation>
     </message>
     <message>
         <source>Sync your files with Nimbulo Pelora</source>
-        <translation>Sync your files with Nimbulo Pelora</translation>
+        <translation>Synkroniser filene dine med Nimbulo Pelora</translation>
     </message>
     <message>
         <source>File sharing is not available over a LinkVane connection.</source>
-        <translation>File sharing is not available over a LinkVane connection.</translation>
+        <translation>Fildeling er ikke tilgjengelig via en LinkVane-tilkobling.</translation>
     </message>
     <message>
         <source>Tue</source>
-        <translation>Tue</translation>
+        <translation>tir.</translation>
     </message>
     <message>
         <source>Open Containing Folder</source>
-        <translation>Open Containing Folder</translation>
+        <translation>Åpne mappen filen ligger i</translation>
     </message>
     <message>
         <source>Choose how you want to set up Nimbulo Pelora.</source>
-        <translation>Choose how you want to set up Nimbulo Pelora.</translation>
+        <translation>Velg hvordan du vil konfigurere Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Quick Setup</source>
-        <translation>Quick Setup</translation>
+        <translation>Hurtigoppsett</translation>
     </message>
     <message>
         <source>Right-click a file in the sync folder to share it or browse its previous versions.</source>
-        <translation>Right-click a file in the sync folder to share it or browse its previous versions.</translation>
+        <translation>Høyreklikk på en fil i synkroniseringsmappen for å dele den eller bla gjennom tidligere versjoner.</translation>
     </message>
     <message>
         <source>Got it</source>
-        <translation>Got it</translation>
+        <translation>Skjønner</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation>Search</translation>
+        <translation>Søk</translation>
     </message>
     <message>
         <source>Open the tray menu at any time to see what is syncing.</source>
-        <translation>Open the tray menu at any time to see what is syncing.</translation>
+        <translation>Åpne menyen i varslingsområdet når som helst for å se hva som synkroniseres.</translation>
     </message>
     <message>
         <source>Changes you make are uploaded as soon as you save them.</source>
-        <translation>Changes you make are uploaded as soon as you save them.</translation>
+        <translation>Endringer du gjør, lastes opp så snart du lagrer dem.</translation>
     </message>
     <message>
         <source>%1 hours ago</source>
-        <translation>%1 hours ago</translation>
+        <translation>For %1 timer siden</translation>
     </message>
     <message>
         <source>Do Not Sync This Folder</source>
-        <translation>Do Not Sync This Folder</translation>
+        <translation>Ikke synkroniser denne mappen</translation>
     </message>
     <message>
         <source>History</source>
-        <translation>History</translation>
+        <translation>Logg</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation>Folder</translation>
+        <translation>Mappe</translation>
     </message>
     <message>
         <source>Create a new folder on the NAS to sync with this computer.</source>
-        <translation>Create a new folder on the NAS to sync with this computer.</translation>
+        <translation>Opprett en ny mappe på NAS-en som skal synkroniseres med denne datamaskinen.</translation>
     </message>
     <message>
         <source>From</source>
-        <translation>From</translation>
+        <translation>Fra</translation>
     </message>
     <message>
         <source>Folder Already Synced</source>
-        <translation>Folder Already Synced</translation>
+        <translation>Mappen synkroniseres allerede</translation>
     </message>
     <message>
         <source>This folder is already being synced by another sync task.</source>
-        <translation>This folder is already being synced by another sync task.</translation>
+        <translation>Denne mappen synkroniseres allerede av en annen synkroniseringsoppgave.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation>Rename</translation>
+        <translation>Gi nytt navn</translation>
     </message>
     <message>
         <source>Preparing to sync...</source>
-        <translation>Preparing to sync...</translation>
+        <translation>Forbereder synkronisering...</translation>
     </message>
     <message>
         <source>Recently Changed</source>
-        <translation>Recently Changed</translation>
+        <translation>Nylig endret</translation>
     </message>
     <message>
         <source>%1 days ago</source>
-        <translation>%1 days ago</translation>
+        <translation>For %1 dager siden</translation>
     </message>
     <message>
         <source>Just now</source>
-        <translation>Just now</translation>
+        <translation>Akkurat nå</translation>
     </message>
     <message>
         <source>%1 minutes ago</source>
-        <translation>%1 minutes ago</translation>
+        <translation>For %1 minutter siden</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation>%1 items</translation>
+        <translation>%1 elementer</translation>
     </message>
     <message>
         <source>Modified Time</source>
-        <translation>Modified Time</translation>
+        <translation>Endret</translation>
     </message>
     <message>
         <source>Keyword</source>
-        <translation>Keyword</translation>
+        <translation>Søkeord</translation>
     </message>
     <message>
         <source>Last month</source>
-        <translation>Last month</translation>
+        <translation>Forrige måned</translation>
     </message>
     <message>
         <source>Last week</source>
-        <translation>Last week</translation>
+        <translation>Forrige uke</translation>
     </message>
     <message>
         <source>Resume Syncing This Folder</source>
-        <translation>Resume Syncing This Folder</translation>
+        <translation>Gjenoppta synkronisering av denne mappen</translation>
     </message>
     <message>
         <source>Resume Syncing These Folders</source>
-        <translation>Resume Syncing These Folders</translation>
+        <translation>Gjenoppta synkronisering av disse mappene</translation>
     </message>
     <message>
         <source>Do Not Sync These Folders</source>
-        <translation>Do Not Sync These Folders</translation>
+        <translation>Ikke synkroniser disse mappene</translation>
     </message>
     <message>
         <source>No data</source>
-        <translation>No data</translation>
+        <translation>Ingen data</translation>
     </message>
     <message>
         <source>Send to</source>
-        <translation>Send to</translation>
+        <translation>Send til</translation>
     </message>
     <message>
         <source>Currently syncing: %1</source>
-        <translation>Currently syncing: %1</translation>
+        <translation>Synkroniserer nå: %1</translation>
     </message>
     <message>
         <source>File</source>
-        <translation>File</translation>
+        <translation>Fil</translation>
     </message>
     <message>
         <source>Search by file name</source>
-        <translation>Search by file name</translation>
+        <translation>Søk etter filnavn</translation>
     </message>
     <message>
         <source>File Type</source>
-        <translation>File Type</translation>
+        <translation>Filtype</translation>
     </message>
     <message>
         <source>Fri</source>
-        <translation>Fri</translation>
+        <translation>fre.</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation>Event</translation>
+        <translation>Hendelse</translation>
     </message>
     <message>
         <source>All events</source>
-        <translation>All events</translation>
+        <translation>Alle hendelser</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation>Custom</translation>
+        <translation>Egendefinert</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>Date</translation>
+        <translation>Dato</translation>
     </message>
     <message>
         <source>Date range</source>
-        <translation>Date range</translation>
+        <translation>Datoperiode</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation>Download</translation>
+        <translation>Nedlasting</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation>Reset</translation>
+        <translation>Tilbakestill</translation>
     </message>
     <message>
         <source>To</source>
-        <translation>To</translation>
+        <translation>Til</translation>
     </message>
     <message>
         <source>Type</source>
@@ -1317,323 +1317,323 @@
     </message>
     <message>
         <source>Upload</source>
-        <translation>Upload</translation>
+        <translation>Opplasting</translation>
     </message>
     <message>
         <source>Mon</source>
-        <translation>Mon</translation>
+        <translation>man.</translation>
     </message>
     <message>
         <source>Apr</source>
-        <translation>Apr</translation>
+        <translation>apr.</translation>
     </message>
     <message>
         <source>Aug</source>
-        <translation>Aug</translation>
+        <translation>aug.</translation>
     </message>
     <message>
         <source>Dec</source>
-        <translation>Dec</translation>
+        <translation>des.</translation>
     </message>
     <message>
         <source>Feb</source>
-        <translation>Feb</translation>
+        <translation>feb.</translation>
     </message>
     <message>
         <source>Jan</source>
-        <translation>Jan</translation>
+        <translation>jan.</translation>
     </message>
     <message>
         <source>Jul</source>
-        <translation>Jul</translation>
+        <translation>jul.</translation>
     </message>
     <message>
         <source>Jun</source>
-        <translation>Jun</translation>
+        <translation>jun.</translation>
     </message>
     <message>
         <source>Mar</source>
-        <translation>Mar</translation>
+        <translation>mar.</translation>
     </message>
     <message>
         <source>May</source>
-        <translation>May</translation>
+        <translation>mai</translation>
     </message>
     <message>
         <source>Nov</source>
-        <translation>Nov</translation>
+        <translation>nov.</translation>
     </message>
     <message>
         <source>Oct</source>
-        <translation>Oct</translation>
+        <translation>okt.</translation>
     </message>
     <message>
         <source>Sep</source>
-        <translation>Sep</translation>
+        <translation>sep.</translation>
     </message>
     <message>
         <source>Sat</source>
-        <translation>Sat</translation>
+        <translation>lør.</translation>
     </message>
     <message>
         <source>Sun</source>
-        <translation>Sun</translation>
+        <translation>søn.</translation>
     </message>
     <message>
         <source>Thu</source>
-        <translation>Thu</translation>
+        <translation>tor.</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation>Today</translation>
+        <translation>I dag</translation>
     </message>
     <message>
         <source>Wed</source>
-        <translation>Wed</translation>
+        <translation>ons.</translation>
     </message>
     <message>
         <source>Advanced Mode</source>
-        <translation>Advanced Mode</translation>
+        <translation>Avansert modus</translation>
     </message>
     <message>
         <source>Don&apos;t show this message again</source>
-        <translation>Don&apos;t show this message again</translation>
+        <translation>Ikke vis denne meldingen igjen</translation>
     </message>
     <message>
         <source>Your files are now syncing with the folder &quot;%1&quot; on the NAS.</source>
-        <translation>Your files are now syncing with the folder &quot;%1&quot; on the NAS.</translation>
+        <translation>Filene dine synkroniseres nå med mappen «%1» på NAS-en.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been set up. Your home folder on the NAS is now synced with this computer.</source>
-        <translation>Nimbulo Pelora has been set up. Your home folder on the NAS is now synced with this computer.</translation>
+        <translation>Nimbulo Pelora er konfigurert. Hjemmemappen din på NAS-en synkroniseres nå med denne datamaskinen.</translation>
     </message>
     <message>
         <source>Setup Complete</source>
-        <translation>Setup Complete</translation>
+        <translation>Oppsettet er fullført</translation>
     </message>
     <message>
         <source>Files you put in the sync folder are kept up to date on the NAS and on your other devices.</source>
-        <translation>Files you put in the sync folder are kept up to date on the NAS and on your other devices.</translation>
+        <translation>Filer du legger i synkroniseringsmappen, holdes oppdatert på NAS-en og på de andre enhetene dine.</translation>
     </message>
     <message>
         <source>The tray icon shows the sync status at a glance.</source>
-        <translation>The tray icon shows the sync status at a glance.</translation>
+        <translation>Ikonet i varslingsområdet viser synkroniseringsstatusen med et raskt blikk.</translation>
     </message>
     <message>
         <source>Setup Mode</source>
-        <translation>Setup Mode</translation>
+        <translation>Oppsettsmodus</translation>
     </message>
     <message>
         <source>Sync your home folder on the NAS with a folder on this computer.</source>
-        <translation>Sync your home folder on the NAS with a folder on this computer.</translation>
+        <translation>Synkroniser hjemmemappen din på NAS-en med en mappe på denne datamaskinen.</translation>
     </message>
     <message>
         <source>No, thanks</source>
-        <translation>No, thanks</translation>
+        <translation>Nei takk</translation>
     </message>
     <message>
         <source>Welcome</source>
-        <translation>Welcome</translation>
+        <translation>Velkommen</translation>
     </message>
     <message>
         <source>Sync Folder</source>
-        <translation>Sync Folder</translation>
+        <translation>Synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Tray Icon</source>
-        <translation>Tray Icon</translation>
+        <translation>Ikon i varslingsområdet</translation>
     </message>
     <message>
         <source>Sharing and Versions</source>
-        <translation>Sharing and Versions</translation>
+        <translation>Deling og versjoner</translation>
     </message>
     <message>
         <source>Search for NAS on the local network</source>
-        <translation>Search for NAS on the local network</translation>
+        <translation>Søk etter NAS på det lokale nettverket</translation>
     </message>
     <message>
         <source>Connect with LinkVane</source>
-        <translation>Connect with LinkVane</translation>
+        <translation>Koble til med LinkVane</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Password:</translation>
+        <translation>Passord:</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation>Username:</translation>
+        <translation>Brukernavn:</translation>
     </message>
     <message>
         <source>Welcome to Nimbulo Pelora</source>
-        <translation>Welcome to Nimbulo Pelora</translation>
+        <translation>Velkommen til Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Show Main Window</source>
-        <translation>Show Main Window</translation>
+        <translation>Vis hovedvinduet</translation>
     </message>
     <message>
         <source>Update Available</source>
-        <translation>Update Available</translation>
+        <translation>Oppdatering tilgjengelig</translation>
     </message>
     <message>
         <source>Folder on the NAS</source>
-        <translation>Folder on the NAS</translation>
+        <translation>Mappe på NAS-en</translation>
     </message>
     <message>
         <source>New Sync Folder</source>
-        <translation>New Sync Folder</translation>
+        <translation>Ny synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Sync a new folder</source>
-        <translation>Sync a new folder</translation>
+        <translation>Synkroniser en ny mappe</translation>
     </message>
     <message>
         <source>Advanced Setup</source>
-        <translation>Advanced Setup</translation>
+        <translation>Avansert oppsett</translation>
     </message>
     <message>
         <source>Open Sync Status</source>
-        <translation>Open Sync Status</translation>
+        <translation>Åpne synkroniseringsstatus</translation>
     </message>
     <message>
         <source>Choose which folder on the NAS to sync, where to keep it on this computer, and how to sync it.</source>
-        <translation>Choose which folder on the NAS to sync, where to keep it on this computer, and how to sync it.</translation>
+        <translation>Velg hvilken mappe på NAS-en som skal synkroniseres, hvor den skal ligge på denne datamaskinen, og hvordan den skal synkroniseres.</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation>Done</translation>
+        <translation>Ferdig</translation>
     </message>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
-        <translation>Files larger than %1 MB will not be synced.</translation>
+        <translation>Filer som er større enn %1 MB, blir ikke synkronisert.</translation>
     </message>
     <message>
         <source>Find NAS on the local network</source>
-        <translation>Find NAS on the local network</translation>
+        <translation>Finn NAS på det lokale nettverket</translation>
     </message>
     <message>
         <source>You only have read permission for &quot;%1&quot;. Changes made on this computer will not be uploaded.</source>
-        <translation>You only have read permission for &quot;%1&quot;. Changes made on this computer will not be uploaded.</translation>
+        <translation>Du har bare lesetillatelse for «%1». Endringer som gjøres på denne datamaskinen, blir ikke lastet opp.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be used as a sync folder.</source>
-        <translation>&quot;%1&quot; cannot be used as a sync folder.</translation>
+        <translation>«%1» kan ikke brukes som synkroniseringsmappe.</translation>
     </message>
     <message>
         <source>More Tips</source>
-        <translation>More Tips</translation>
+        <translation>Flere tips</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; overlaps with the sync folder of another task.</source>
-        <translation>The folder &quot;%1&quot; overlaps with the sync folder of another task.</translation>
+        <translation>Mappen «%1» overlapper synkroniseringsmappen til en annen oppgave.</translation>
     </message>
     <message>
         <source>This folder is already synced with &quot;%1&quot;.</source>
-        <translation>This folder is already synced with &quot;%1&quot;.</translation>
+        <translation>Denne mappen synkroniseres allerede med «%1».</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is already synced with a folder on the NAS.</source>
-        <translation>The folder &quot;%1&quot; is already synced with a folder on the NAS.</translation>
+        <translation>Mappen «%1» synkroniseres allerede med en mappe på NAS-en.</translation>
     </message>
     <message>
         <source>Create a &quot;Nimbulo&quot; folder in the selected location</source>
-        <translation>Create a &quot;Nimbulo&quot; folder in the selected location</translation>
+        <translation>Opprett en «Nimbulo»-mappe på den valgte plasseringen</translation>
     </message>
     <message>
         <source>Copy Sharing Link</source>
-        <translation>Copy Sharing Link</translation>
+        <translation>Kopier delingslenke</translation>
     </message>
     <message>
         <source>Unable to get a sharing link because sharing is disabled on the server.</source>
-        <translation>Unable to get a sharing link because sharing is disabled on the server.</translation>
+        <translation>Kan ikke hente en delingslenke fordi deling er deaktivert på serveren.</translation>
     </message>
     <message>
         <source>The server&apos;s SSL certificate has changed. Do you trust the new certificate?</source>
-        <translation>The server&apos;s SSL certificate has changed. Do you trust the new certificate?</translation>
+        <translation>SSL-sertifikatet til serveren er endret. Stoler du på det nye sertifikatet?</translation>
     </message>
     <message>
         <source>Your IP address is not allowed to connect to this server.</source>
-        <translation>Your IP address is not allowed to connect to this server.</translation>
+        <translation>IP-adressen din har ikke tillatelse til å koble til denne serveren.</translation>
     </message>
     <message>
         <source>When the same file has been changed on both sides:</source>
-        <translation>When the same file has been changed on both sides:</translation>
+        <translation>Når den samme filen er endret på begge sider:</translation>
     </message>
     <message>
         <source>The sync direction does not match the permissions of this folder.</source>
-        <translation>The sync direction does not match the permissions of this folder.</translation>
+        <translation>Synkroniseringsretningen samsvarer ikke med tillatelsene for denne mappen.</translation>
     </message>
     <message>
         <source>Last page</source>
-        <translation>Last page</translation>
+        <translation>Siste side</translation>
     </message>
     <message>
         <source>First page</source>
-        <translation>First page</translation>
+        <translation>Første side</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation>Previous %1 pages</translation>
+        <translation>Forrige %1 sider</translation>
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation>Next %1 pages</translation>
+        <translation>Neste %1 sider</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation>Open File</translation>
+        <translation>Åpne fil</translation>
     </message>
     <message>
         <source>Open Folder</source>
-        <translation>Open Folder</translation>
+        <translation>Åpne mappe</translation>
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation>Unlinking...</translation>
+        <translation>Fjerner tilknytning...</translation>
     </message>
     <message>
         <source>Too many failed attempts. Please try again later.</source>
-        <translation>Too many failed attempts. Please try again later.</translation>
+        <translation>For mange mislykkede forsøk. Prøv på nytt senere.</translation>
     </message>
     <message>
         <source>This file is locked by another application.</source>
-        <translation>This file is locked by another application.</translation>
+        <translation>Denne filen er låst av et annet program.</translation>
     </message>
     <message>
         <source>Unable to check &quot;%1&quot; because of a network error.</source>
-        <translation>Unable to check &quot;%1&quot; because of a network error.</translation>
+        <translation>Kan ikke kontrollere «%1» på grunn av en nettverksfeil.</translation>
     </message>
     <message>
         <source>Keep the most recently modified version</source>
-        <translation>Keep the most recently modified version</translation>
+        <translation>Behold den sist endrede versjonen</translation>
     </message>
     <message>
         <source>Two-way sync</source>
-        <translation>Two-way sync</translation>
+        <translation>Toveis synkronisering</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your account.</source>
-        <translation>Enter the address of your NAS and your account.</translation>
+        <translation>Angi adressen til NAS-en og kontoen din.</translation>
     </message>
     <message>
         <source>Unable to create the local folder &quot;%1&quot;.</source>
-        <translation>Unable to create the local folder &quot;%1&quot;.</translation>
+        <translation>Kan ikke opprette den lokale mappen «%1».</translation>
     </message>
     <message>
         <source>Select a folder on the NAS and a folder on this computer to sync with each other.</source>
-        <translation>Select a folder on the NAS and a folder on this computer to sync with each other.</translation>
+        <translation>Velg en mappe på NAS-en og en mappe på denne datamaskinen som skal synkroniseres med hverandre.</translation>
     </message>
     <message>
         <source>Set Sync Folders</source>
-        <translation>Set Sync Folders</translation>
+        <translation>Angi synkroniseringsmapper</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is now syncing &quot;%1&quot; on the NAS with &quot;%2&quot; on this computer.</source>
-        <translation>Nimbulo Pelora is now syncing &quot;%1&quot; on the NAS with &quot;%2&quot; on this computer.</translation>
+        <translation>Nimbulo Pelora synkroniserer nå «%1» på NAS-en med «%2» på denne datamaskinen.</translation>
     </message>
     <message>
         <source>When files conflict, the server&apos;s copy is kept and the local copy is backed up.</source>
-        <translation>When files conflict, the server&apos;s copy is kept and the local copy is backed up.</translation>
+        <translation>Ved filkonflikter beholdes serverens kopi, og det tas sikkerhetskopi av den lokale kopien.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora</source>
@@ -1641,47 +1641,47 @@
     </message>
     <message>
         <source>Enable On-demand Sync</source>
-        <translation>Enable On-demand Sync</translation>
+        <translation>Aktiver synkronisering ved behov</translation>
     </message>
     <message>
         <source>The verification code is incorrect.</source>
-        <translation>The verification code is incorrect.</translation>
+        <translation>Bekreftelseskoden er feil.</translation>
     </message>
     <message>
         <source>This account requires a verification code.</source>
-        <translation>This account requires a verification code.</translation>
+        <translation>Denne kontoen krever en bekreftelseskode.</translation>
     </message>
     <message>
         <source>Enter the verification code from your authenticator app:</source>
-        <translation>Enter the verification code from your authenticator app:</translation>
+        <translation>Angi bekreftelseskoden fra autentiseringsappen din:</translation>
     </message>
     <message>
         <source>Your quota on the NAS is full. &quot;%1&quot; cannot be synced.</source>
-        <translation>Your quota on the NAS is full. &quot;%1&quot; cannot be synced.</translation>
+        <translation>Kvoten din på NAS-en er full. «%1» kan ikke synkroniseres.</translation>
     </message>
     <message>
         <source>The server certificate has changed. Unable to sync &quot;%1&quot;.</source>
-        <translation>The server certificate has changed. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Serversertifikatet er endret. Kan ikke synkronisere «%1».</translation>
     </message>
     <message>
         <source>The server certificate cannot be verified. Unable to sync &quot;%1&quot;.</source>
-        <translation>The server certificate cannot be verified. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Serversertifikatet kan ikke bekreftes. Kan ikke synkronisere «%1».</translation>
     </message>
     <message>
         <source>A system error occurred while checking the sync folder.</source>
-        <translation>A system error occurred while checking the sync folder.</translation>
+        <translation>Det oppstod en systemfeil under kontrollen av synkroniseringsmappen.</translation>
     </message>
     <message>
         <source>Overwrite the local copy with the server&apos;s copy</source>
-        <translation>Overwrite the local copy with the server&apos;s copy</translation>
+        <translation>Overskriv den lokale kopien med serverens kopi</translation>
     </message>
     <message>
         <source>Keep both copies and rename the local one</source>
-        <translation>Keep both copies and rename the local one</translation>
+        <translation>Behold begge kopiene, og gi den lokale kopien nytt navn</translation>
     </message>
     <message>
         <source>A newer version of Nimbulo Pelora (%1) is already installed.\nSetup will now exit.</source>
-        <translation>A newer version of Nimbulo Pelora (%1) is already installed.\nSetup will now exit.</translation>
+        <translation>En nyere versjon av Nimbulo Pelora (%1) er allerede installert.\nInstallasjonsprogrammet avsluttes nå.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is ready.</source>
@@ -1693,707 +1693,707 @@
     </message>
     <message>
         <source>No folder that you can sync was found.</source>
-        <translation>No folder that you can sync was found.</translation>
+        <translation>Fant ingen mappe som du kan synkronisere.</translation>
     </message>
     <message>
         <source>Show the tutorial</source>
-        <translation>Show the tutorial</translation>
+        <translation>Vis innføringen</translation>
     </message>
     <message>
         <source>Files in the local folder will be merged with the files on the NAS.</source>
-        <translation>Files in the local folder will be merged with the files on the NAS.</translation>
+        <translation>Filene i den lokale mappen blir slått sammen med filene på NAS-en.</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora when the computer starts</source>
-        <translation>Start Nimbulo Pelora when the computer starts</translation>
+        <translation>Start Nimbulo Pelora når datamaskinen starter</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered an error.</source>
-        <translation>Nimbulo Pelora has encountered an error.</translation>
+        <translation>Det oppstod en feil i Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is running.</source>
-        <translation>Nimbulo Pelora is running.</translation>
+        <translation>Nimbulo Pelora kjører.</translation>
     </message>
     <message>
         <source>This version of Nimbulo Pelora is no longer supported. Please update it.</source>
-        <translation>This version of Nimbulo Pelora is no longer supported. Please update it.</translation>
+        <translation>Denne versjonen av Nimbulo Pelora støttes ikke lenger. Oppdater programmet.</translation>
     </message>
     <message>
         <source>Click to update Nimbulo Pelora</source>
-        <translation>Click to update Nimbulo Pelora</translation>
+        <translation>Klikk for å oppdatere Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Please update the sync service on the server to use selective sync.</source>
-        <translation>Please update the sync service on the server to use selective sync.</translation>
+        <translation>Oppdater synkroniseringstjenesten på serveren for å bruke selektiv synkronisering.</translation>
     </message>
     <message>
         <source>There is not enough free space on this computer to sync &quot;%1&quot;.</source>
-        <translation>There is not enough free space on this computer to sync &quot;%1&quot;.</translation>
+        <translation>Det er ikke nok ledig plass på denne datamaskinen til å synkronisere «%1».</translation>
     </message>
     <message>
         <source>Sign in to your NAS to start syncing.</source>
-        <translation>Sign in to your NAS to start syncing.</translation>
+        <translation>Logg på NAS-en for å begynne å synkronisere.</translation>
     </message>
     <message>
         <source>Keep the files on this computer in sync with your NAS.</source>
-        <translation>Keep the files on this computer in sync with your NAS.</translation>
+        <translation>Hold filene på denne datamaskinen synkronisert med NAS-en din.</translation>
     </message>
     <message>
         <source>Shared folder not found</source>
-        <translation>Shared folder not found</translation>
+        <translation>Finner ikke den delte mappen</translation>
     </message>
     <message>
         <source>About Nimbulo Pelora</source>
-        <translation>About Nimbulo Pelora</translation>
+        <translation>Om Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Your administrator requires two-step verification. Please enable it in your account settings first.</source>
-        <translation>Your administrator requires two-step verification. Please enable it in your account settings first.</translation>
+        <translation>Administratoren krever totrinnsbekreftelse. Aktiver den i kontoinnstillingene først.</translation>
     </message>
     <message>
         <source>The quota of the shared folder is full.</source>
-        <translation>The quota of the shared folder is full.</translation>
+        <translation>Kvoten for den delte mappen er full.</translation>
     </message>
     <message>
         <source>Sync Direction</source>
-        <translation>Sync Direction</translation>
+        <translation>Synkroniseringsretning</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered a problem while syncing. Click for details.</source>
-        <translation>Nimbulo Pelora has encountered a problem while syncing. Click for details.</translation>
+        <translation>Nimbulo Pelora har støtt på et problem under synkroniseringen. Klikk for å se detaljer.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora keeps your files up to date on all of your devices.</source>
-        <translation>Nimbulo Pelora keeps your files up to date on all of your devices.</translation>
+        <translation>Nimbulo Pelora holder filene dine oppdatert på alle enhetene dine.</translation>
     </message>
     <message>
         <source>Some fields contain invalid values.</source>
-        <translation>Some fields contain invalid values.</translation>
+        <translation>Noen felt inneholder ugyldige verdier.</translation>
     </message>
     <message>
         <source>You do not have permission to access &quot;%1&quot;.</source>
-        <translation>You do not have permission to access &quot;%1&quot;.</translation>
+        <translation>Du har ikke tilgang til «%1».</translation>
     </message>
     <message>
         <source>Your account has been disabled. Unable to sync &quot;%1&quot;.</source>
-        <translation>Your account has been disabled. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Kontoen din er deaktivert. Kan ikke synkronisere «%1».</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Address</translation>
+        <translation>Adresse</translation>
     </message>
     <message>
         <source>Expires after</source>
-        <translation>Expires after</translation>
+        <translation>Utløper etter</translation>
     </message>
     <message>
         <source>No options available</source>
-        <translation>No options available</translation>
+        <translation>Ingen tilgjengelige alternativer</translation>
     </message>
     <message>
         <source>You need an account on a NAS with the sync service installed.</source>
-        <translation>You need an account on a NAS with the sync service installed.</translation>
+        <translation>Du trenger en konto på en NAS med synkroniseringstjenesten installert.</translation>
     </message>
     <message>
         <source>Authentication failed. Please check your username and password.</source>
-        <translation>Authentication failed. Please check your username and password.</translation>
+        <translation>Godkjenningen mislyktes. Kontroller brukernavnet og passordet.</translation>
     </message>
     <message>
         <source>Use * to match any characters. Separate entries with commas.</source>
-        <translation>Use * to match any characters. Separate entries with commas.</translation>
+        <translation>Bruk * for å matche vilkårlige tegn. Skill oppføringene med komma.</translation>
     </message>
     <message>
         <source>One-way download</source>
-        <translation>One-way download</translation>
+        <translation>Enveis nedlasting</translation>
     </message>
     <message>
         <source>A folder named &quot;%1&quot; already exists.</source>
-        <translation>A folder named &quot;%1&quot; already exists.</translation>
+        <translation>Det finnes allerede en mappe med navnet «%1».</translation>
     </message>
     <message>
         <source>Sync extended attributes</source>
-        <translation>Sync extended attributes</translation>
+        <translation>Synkroniser utvidede attributter</translation>
     </message>
     <message>
         <source>I do not accept the terms in the License Agreement</source>
-        <translation>I do not accept the terms in the License Agreement</translation>
+        <translation>Jeg godtar ikke vilkårene i lisensavtalen</translation>
     </message>
     <message>
         <source>Sharing Link</source>
-        <translation>Sharing Link</translation>
+        <translation>Delingslenke</translation>
     </message>
     <message>
         <source>Expires on</source>
-        <translation>Expires on</translation>
+        <translation>Utløper</translation>
     </message>
     <message>
         <source>This field is required.</source>
-        <translation>This field is required.</translation>
+        <translation>Dette feltet er obligatorisk.</translation>
     </message>
     <message>
         <source>Restrict access to users with an account</source>
-        <translation>Restrict access to users with an account</translation>
+        <translation>Begrens tilgangen til brukere med en konto</translation>
     </message>
     <message>
         <source>Show Nimbulo Pelora in the context menu</source>
-        <translation>Show Nimbulo Pelora in the context menu</translation>
+        <translation>Vis Nimbulo Pelora på hurtigmenyen</translation>
     </message>
     <message>
         <source>The home folder service is disabled on the NAS.</source>
-        <translation>The home folder service is disabled on the NAS.</translation>
+        <translation>Tjenesten for hjemmemapper er deaktivert på NAS-en.</translation>
     </message>
     <message>
         <source>Unable to update Nimbulo Pelora. Please try again later.</source>
-        <translation>Unable to update Nimbulo Pelora. Please try again later.</translation>
+        <translation>Kan ikke oppdatere Nimbulo Pelora. Prøv på nytt senere.</translation>
     </message>
     <message>
         <source>Apply and Copy Link</source>
-        <translation>Apply and Copy Link</translation>
+        <translation>Bruk og kopier lenken</translation>
     </message>
     <message>
         <source>Limit the number of accesses</source>
-        <translation>Limit the number of accesses</translation>
+        <translation>Begrens antall tilganger</translation>
     </message>
     <message>
         <source>Available from</source>
-        <translation>Available from</translation>
+        <translation>Tilgjengelig fra</translation>
     </message>
     <message>
         <source>A new version of Nimbulo Pelora is required to connect to this server. Update now?</source>
-        <translation>A new version of Nimbulo Pelora is required to connect to this server. Update now?</translation>
+        <translation>Du trenger en ny versjon av Nimbulo Pelora for å koble til denne serveren. Vil du oppdatere nå?</translation>
     </message>
     <message>
         <source>Add file name</source>
-        <translation>Add file name</translation>
+        <translation>Legg til filnavn</translation>
     </message>
     <message>
         <source>Local destination</source>
-        <translation>Local destination</translation>
+        <translation>Lokalt mål</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation>Language</translation>
+        <translation>Språk</translation>
     </message>
     <message>
         <source>Remote NAS</source>
-        <translation>Remote NAS</translation>
+        <translation>Ekstern NAS</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation>This computer</translation>
+        <translation>Denne datamaskinen</translation>
     </message>
     <message>
         <source>Download the selected version</source>
-        <translation>Download the selected version</translation>
+        <translation>Last ned den valgte versjonen</translation>
     </message>
     <message>
         <source>Custom duration</source>
-        <translation>Custom duration</translation>
+        <translation>Egendefinert varighet</translation>
     </message>
     <message>
         <source>Refresh sync history</source>
-        <translation>Refresh sync history</translation>
+        <translation>Oppdater synkroniseringsloggen</translation>
     </message>
     <message>
         <source>On-demand Sync</source>
-        <translation>On-demand Sync</translation>
+        <translation>Synkronisering ved behov</translation>
     </message>
     <message>
         <source>Filter sync history</source>
-        <translation>Filter sync history</translation>
+        <translation>Filtrer synkroniseringsloggen</translation>
     </message>
     <message>
         <source>Add folder</source>
-        <translation>Add folder</translation>
+        <translation>Legg til mappe</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation>Calendar</translation>
+        <translation>Kalender</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation>Next month</translation>
+        <translation>Neste måned</translation>
     </message>
     <message>
         <source>Previous month</source>
-        <translation>Previous month</translation>
+        <translation>Forrige måned</translation>
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation>Change sync folder</translation>
+        <translation>Endre synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Event category</source>
-        <translation>Event category</translation>
+        <translation>Hendelseskategori</translation>
     </message>
     <message>
         <source>Sync task details</source>
-        <translation>Sync task details</translation>
+        <translation>Detaljer om synkroniseringsoppgaven</translation>
     </message>
     <message>
         <source>Remote destination</source>
-        <translation>Remote destination</translation>
+        <translation>Eksternt mål</translation>
     </message>
     <message>
         <source>Close tutorial</source>
-        <translation>Close tutorial</translation>
+        <translation>Lukk innføringen</translation>
     </message>
     <message>
         <source>Tutorial: learn how to use Nimbulo Pelora.</source>
-        <translation>Tutorial: learn how to use Nimbulo Pelora.</translation>
+        <translation>Innføring: Lær hvordan du bruker Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Cancel download</source>
-        <translation>Cancel download</translation>
+        <translation>Avbryt nedlastingen</translation>
     </message>
     <message>
         <source>Delete version</source>
-        <translation>Delete version</translation>
+        <translation>Slett versjonen</translation>
     </message>
     <message>
         <source>Unable to enable On-demand Sync for &quot;%1&quot;.</source>
-        <translation>Unable to enable On-demand Sync for &quot;%1&quot;.</translation>
+        <translation>Kan ikke aktivere synkronisering ved behov for «%1».</translation>
     </message>
     <message>
         <source>This file is not available because there is no connection to the server.</source>
-        <translation>This file is not available because there is no connection to the server.</translation>
+        <translation>Denne filen er ikke tilgjengelig fordi det ikke er noen tilkobling til serveren.</translation>
     </message>
     <message>
         <source>Renamed on this computer</source>
-        <translation>Renamed on this computer</translation>
+        <translation>Nytt navn på denne datamaskinen</translation>
     </message>
     <message>
         <source>Renamed on the server</source>
-        <translation>Renamed on the server</translation>
+        <translation>Nytt navn på serveren</translation>
     </message>
     <message>
         <source>Please enter no more than %1 characters.</source>
-        <translation>Please enter no more than %1 characters.</translation>
+        <translation>Angi maksimalt %1 tegn.</translation>
     </message>
     <message>
         <source>Your password has expired. Please change it on the server and sign in again.</source>
-        <translation>Your password has expired. Please change it on the server and sign in again.</translation>
+        <translation>Passordet ditt er utløpt. Endre det på serveren, og logg på igjen.</translation>
     </message>
     <message>
         <source>This folder was synced by a different user. Please choose another folder.</source>
-        <translation>This folder was synced by a different user. Please choose another folder.</translation>
+        <translation>Denne mappen ble synkronisert av en annen bruker. Velg en annen mappe.</translation>
     </message>
     <message>
         <source>Relay connections are disabled on the server.</source>
-        <translation>Relay connections are disabled on the server.</translation>
+        <translation>Relétilkoblinger er deaktivert på serveren.</translation>
     </message>
     <message>
         <source>Authentication failed for &quot;%1&quot;. Please sign in again.</source>
-        <translation>Authentication failed for &quot;%1&quot;. Please sign in again.</translation>
+        <translation>Godkjenningen mislyktes for «%1». Logg på igjen.</translation>
     </message>
     <message>
         <source>Unable to get the link to this file.</source>
-        <translation>Unable to get the link to this file.</translation>
+        <translation>Kan ikke hente lenken til denne filen.</translation>
     </message>
     <message>
         <source>Temporary files</source>
-        <translation>Temporary files</translation>
+        <translation>Midlertidige filer</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation>Later</translation>
+        <translation>Senere</translation>
     </message>
     <message>
         <source>Congratulations!</source>
-        <translation>Congratulations!</translation>
+        <translation>Gratulerer!</translation>
     </message>
     <message>
         <source>Folders others have shared with you</source>
-        <translation>Folders others have shared with you</translation>
+        <translation>Mapper andre har delt med deg</translation>
     </message>
     <message>
         <source>You have read-only access to this folder. Changes you make here stay on this computer.</source>
-        <translation>You have read-only access to this folder. Changes you make here stay on this computer.</translation>
+        <translation>Du har bare lesetilgang til denne mappen. Endringer du gjør her, blir værende på denne datamaskinen.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is now syncing &quot;%1&quot; on the server with &quot;%2&quot; on this computer.</source>
-        <translation>Nimbulo Pelora is now syncing &quot;%1&quot; on the server with &quot;%2&quot; on this computer.</translation>
+        <translation>Nimbulo Pelora synkroniserer nå «%1» på serveren med «%2» på denne datamaskinen.</translation>
     </message>
     <message>
         <source>Show the Nimbulo Pelora tutorial</source>
-        <translation>Show the Nimbulo Pelora tutorial</translation>
+        <translation>Vis innføringen i Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is running in the background.</source>
-        <translation>Nimbulo Pelora is running in the background.</translation>
+        <translation>Nimbulo Pelora kjører i bakgrunnen.</translation>
     </message>
     <message>
         <source>Sign in to your server to start syncing.</source>
-        <translation>Sign in to your server to start syncing.</translation>
+        <translation>Logg på serveren for å begynne å synkronisere.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be updated. Please download the latest version and install it again.</source>
-        <translation>Nimbulo Pelora could not be updated. Please download the latest version and install it again.</translation>
+        <translation>Nimbulo Pelora kunne ikke oppdateres. Last ned den nyeste versjonen, og installer den på nytt.</translation>
     </message>
     <message>
         <source>You need an account on a server with the sync service installed.</source>
-        <translation>You need an account on a server with the sync service installed.</translation>
+        <translation>Du trenger en konto på en server med synkroniseringstjenesten installert.</translation>
     </message>
     <message>
         <source>Conflicting changes are kept in both copies: the server copy is renamed with the user name.</source>
-        <translation>Conflicting changes are kept in both copies: the server copy is renamed with the user name.</translation>
+        <translation>Motstridende endringer beholdes i begge kopiene: serverkopien får brukernavnet i filnavnet.</translation>
     </message>
     <message>
         <source>Tutorial: learn how to sync with Nimbulo Pelora.</source>
-        <translation>Tutorial: learn how to sync with Nimbulo Pelora.</translation>
+        <translation>Innføring: Lær hvordan du synkroniserer med Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>The server ID &quot;%1&quot; does not exist.</source>
-        <translation>The server ID &quot;%1&quot; does not exist.</translation>
+        <translation>Server-ID-en «%1» finnes ikke.</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora when I sign in</source>
-        <translation>Start Nimbulo Pelora when I sign in</translation>
+        <translation>Start Nimbulo Pelora når jeg logger på</translation>
     </message>
     <message>
         <source>Choose a folder on the server and a folder on this computer.</source>
-        <translation>Choose a folder on the server and a folder on this computer.</translation>
+        <translation>Velg en mappe på serveren og en mappe på denne datamaskinen.</translation>
     </message>
     <message>
         <source>This sync task belongs to a different server.</source>
-        <translation>This sync task belongs to a different server.</translation>
+        <translation>Denne synkroniseringsoppgaven tilhører en annen server.</translation>
     </message>
     <message>
         <source>The server uses a protocol that this version of Nimbulo Pelora does not support.</source>
-        <translation>The server uses a protocol that this version of Nimbulo Pelora does not support.</translation>
+        <translation>Serveren bruker en protokoll som denne versjonen av Nimbulo Pelora ikke støtter.</translation>
     </message>
     <message>
         <source>The disk is full. Nimbulo Pelora has paused syncing.</source>
-        <translation>The disk is full. Nimbulo Pelora has paused syncing.</translation>
+        <translation>Disken er full. Nimbulo Pelora har satt synkroniseringen på pause.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered an error. Please restart it.</source>
-        <translation>Nimbulo Pelora has encountered an error. Please restart it.</translation>
+        <translation>Det oppstod en feil i Nimbulo Pelora. Start programmet på nytt.</translation>
     </message>
     <message>
         <source>The selected folder is not empty. Its files will be uploaded to the server.</source>
-        <translation>The selected folder is not empty. Its files will be uploaded to the server.</translation>
+        <translation>Den valgte mappen er ikke tom. Filene i den blir lastet opp til serveren.</translation>
     </message>
     <message>
         <source>Download changes from the server only</source>
-        <translation>Download changes from the server only</translation>
+        <translation>Last bare ned endringer fra serveren</translation>
     </message>
     <message>
         <source>Your files are now syncing with the folder &quot;%1&quot; on the server.</source>
-        <translation>Your files are now syncing with the folder &quot;%1&quot; on the server.</translation>
+        <translation>Filene dine synkroniseres nå med mappen «%1» på serveren.</translation>
     </message>
     <message>
         <source>Varnex Pelora %1 is already installed.\nDo you want to reinstall it?</source>
-        <translation>Varnex Pelora %1 is already installed.\nDo you want to reinstall it?</translation>
+        <translation>Varnex Pelora %1 er allerede installert.\nVil du installere programmet på nytt?</translation>
     </message>
     <message>
         <source>Not enough free space to sync &quot;%1&quot;. Free up some space and try again.</source>
-        <translation>Not enough free space to sync &quot;%1&quot;. Free up some space and try again.</translation>
+        <translation>Ikke nok ledig plass til å synkronisere «%1». Frigjør plass, og prøv på nytt.</translation>
     </message>
     <message>
         <source>Keep the files on this computer in sync with your server.</source>
-        <translation>Keep the files on this computer in sync with your server.</translation>
+        <translation>Hold filene på denne datamaskinen synkronisert med serveren din.</translation>
     </message>
     <message>
         <source>Create a &quot;Varnex Pelora&quot; folder in the selected location</source>
-        <translation>Create a &quot;Varnex Pelora&quot; folder in the selected location</translation>
+        <translation>Opprett en «Varnex Pelora»-mappe på den valgte plasseringen</translation>
     </message>
     <message>
         <source>A newer version of Varnex Pelora (%1) is already installed.\nSetup will now exit.</source>
-        <translation>A newer version of Varnex Pelora (%1) is already installed.\nSetup will now exit.</translation>
+        <translation>En nyere versjon av Varnex Pelora (%1) er allerede installert.\nInstallasjonsprogrammet avsluttes nå.</translation>
     </message>
     <message>
         <source>Sync a folder of your choice on the server.</source>
-        <translation>Sync a folder of your choice on the server.</translation>
+        <translation>Synkroniser en valgfri mappe på serveren.</translation>
     </message>
     <message>
         <source>Automatic setup failed. Please set up Nimbulo Pelora manually.</source>
-        <translation>Automatic setup failed. Please set up Nimbulo Pelora manually.</translation>
+        <translation>Automatisk oppsett mislyktes. Konfigurer Nimbulo Pelora manuelt.</translation>
     </message>
     <message>
         <source>Finishing automatic setup...</source>
-        <translation>Finishing automatic setup...</translation>
+        <translation>Fullfører automatisk oppsett...</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation>Share</translation>
+        <translation>Del</translation>
     </message>
     <message>
         <source>No data available.</source>
-        <translation>No data available.</translation>
+        <translation>Ingen data tilgjengelig.</translation>
     </message>
     <message>
         <source>No shared folders are available.</source>
-        <translation>No shared folders are available.</translation>
+        <translation>Ingen delte mapper er tilgjengelige.</translation>
     </message>
     <message>
         <source>The file or folder does not exist.</source>
-        <translation>The file or folder does not exist.</translation>
+        <translation>Filen eller mappen finnes ikke.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been configured by your administrator.</source>
-        <translation>Nimbulo Pelora has been configured by your administrator.</translation>
+        <translation>Nimbulo Pelora er konfigurert av administratoren.</translation>
     </message>
     <message>
         <source>Internal users</source>
-        <translation>Internal users</translation>
+        <translation>Interne brukere</translation>
     </message>
     <message>
         <source>Users of the server can view the file.</source>
-        <translation>Users of the server can view the file.</translation>
+        <translation>Brukere av serveren kan se filen.</translation>
     </message>
     <message>
         <source>Users of the server can view and edit the file.</source>
-        <translation>Users of the server can view and edit the file.</translation>
+        <translation>Brukere av serveren kan se og redigere filen.</translation>
     </message>
     <message>
         <source>Specific people</source>
-        <translation>Specific people</translation>
+        <translation>Bestemte personer</translation>
     </message>
     <message>
         <source>Only people you invite can access the file.</source>
-        <translation>Only people you invite can access the file.</translation>
+        <translation>Bare personer du inviterer, har tilgang til filen.</translation>
     </message>
     <message>
         <source>Anyone with the link</source>
-        <translation>Anyone with the link</translation>
+        <translation>Alle som har lenken</translation>
     </message>
     <message>
         <source>Anyone with the link can view the file.</source>
-        <translation>Anyone with the link can view the file.</translation>
+        <translation>Alle som har lenken, kan se filen.</translation>
     </message>
     <message>
         <source>Anyone with the link can view and edit the file.</source>
-        <translation>Anyone with the link can view and edit the file.</translation>
+        <translation>Alle som har lenken, kan se og redigere filen.</translation>
     </message>
     <message>
         <source>Can view</source>
-        <translation>Can view</translation>
+        <translation>Kan se</translation>
     </message>
     <message>
         <source>Can edit</source>
-        <translation>Can edit</translation>
+        <translation>Kan redigere</translation>
     </message>
     <message>
         <source>Invite</source>
-        <translation>Invite</translation>
+        <translation>Inviter</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation>Link</translation>
+        <translation>Lenke</translation>
     </message>
     <message>
         <source>Link permission:</source>
-        <translation>Link permission:</translation>
+        <translation>Lenketillatelse:</translation>
     </message>
     <message>
         <source>Users and groups</source>
-        <translation>Users and groups</translation>
+        <translation>Brukere og grupper</translation>
     </message>
     <message>
         <source>Use a black-and-white icon in the menu bar</source>
-        <translation>Use a black-and-white icon in the menu bar</translation>
+        <translation>Bruk et svart-hvitt ikon på menylinjen</translation>
     </message>
     <message>
         <source>Show the sync folder in the sidebar of file windows</source>
-        <translation>Show the sync folder in the sidebar of file windows</translation>
+        <translation>Vis synkroniseringsmappen i sidepanelet i filvinduer</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation>Display</translation>
+        <translation>Visning</translation>
     </message>
     <message>
         <source>Unable to connect to the server</source>
-        <translation>Unable to connect to the server</translation>
+        <translation>Kan ikke koble til serveren</translation>
     </message>
     <message>
         <source>Notifications</source>
-        <translation>Notifications</translation>
+        <translation>Varsler</translation>
     </message>
     <message>
         <source>%1 commented on %2</source>
-        <translation>%1 commented on %2</translation>
+        <translation>%1 kommenterte %2</translation>
     </message>
     <message>
         <source>%1 mentioned you in %2</source>
-        <translation>%1 mentioned you in %2</translation>
+        <translation>%1 nevnte deg i %2</translation>
     </message>
     <message>
         <source>%1 requested access to %2</source>
-        <translation>%1 requested access to %2</translation>
+        <translation>%1 ba om tilgang til %2</translation>
     </message>
     <message>
         <source>%1 shared %2 with you</source>
-        <translation>%1 shared %2 with you</translation>
+        <translation>%1 delte %2 med deg</translation>
     </message>
     <message>
         <source>Open in Web Portal</source>
-        <translation>Open in Web Portal</translation>
+        <translation>Åpne i nettportalen</translation>
     </message>
     <message>
         <source>Sync</source>
-        <translation>Sync</translation>
+        <translation>Synkronisering</translation>
     </message>
     <message>
         <source>Shared</source>
-        <translation>Shared</translation>
+        <translation>Delt</translation>
     </message>
     <message>
         <source>Set Up</source>
-        <translation>Set Up</translation>
+        <translation>Konfigurer</translation>
     </message>
     <message>
         <source>%1 is requesting access to this file.</source>
-        <translation>%1 is requesting access to this file.</translation>
+        <translation>%1 ber om tilgang til denne filen.</translation>
     </message>
     <message>
         <source>Comments</source>
-        <translation>Comments</translation>
+        <translation>Kommentarer</translation>
     </message>
     <message>
         <source>Mentions</source>
-        <translation>Mentions</translation>
+        <translation>Omtaler</translation>
     </message>
     <message>
         <source>Sync the folders shared with you as well?</source>
-        <translation>Sync the folders shared with you as well?</translation>
+        <translation>Vil du også synkronisere mappene som er delt med deg?</translation>
     </message>
     <message>
         <source>One-way upload</source>
-        <translation>One-way upload</translation>
+        <translation>Enveis opplasting</translation>
     </message>
     <message>
         <source>Do not remove files on the server when they are removed locally</source>
-        <translation>Do not remove files on the server when they are removed locally</translation>
+        <translation>Ikke fjern filer på serveren når de fjernes lokalt</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has been downloaded.</source>
-        <translation>&quot;%1&quot; has been downloaded.</translation>
+        <translation>«%1» er lastet ned.</translation>
     </message>
     <message>
         <source>Your files are synced on all devices.</source>
-        <translation>Your files are synced on all devices.</translation>
+        <translation>Filene dine er synkronisert på alle enheter.</translation>
     </message>
     <message>
         <source>You can also access your files from the web portal.</source>
-        <translation>You can also access your files from the web portal.</translation>
+        <translation>Du har også tilgang til filene dine fra nettportalen.</translation>
     </message>
     <message>
         <source>Your sync task is ready.</source>
-        <translation>Your sync task is ready.</translation>
+        <translation>Synkroniseringsoppgaven din er klar.</translation>
     </message>
     <message>
         <source>Start Tour</source>
-        <translation>Start Tour</translation>
+        <translation>Start omvisningen</translation>
     </message>
     <message>
         <source>Files and folders that others share with you can also be synced to this computer.</source>
-        <translation>Files and folders that others share with you can also be synced to this computer.</translation>
+        <translation>Filer og mapper som andre deler med deg, kan også synkroniseres til denne datamaskinen.</translation>
     </message>
     <message>
         <source>Maybe later</source>
-        <translation>Maybe later</translation>
+        <translation>Kanskje senere</translation>
     </message>
     <message>
         <source>Sync now</source>
-        <translation>Sync now</translation>
+        <translation>Synkroniser nå</translation>
     </message>
     <message>
         <source>Shared with Me</source>
-        <translation>Shared with Me</translation>
+        <translation>Delt med meg</translation>
     </message>
     <message>
         <source>Create Sync Task</source>
-        <translation>Create Sync Task</translation>
+        <translation>Opprett synkroniseringsoppgave</translation>
     </message>
     <message>
         <source>Choose what you want to sync.</source>
-        <translation>Choose what you want to sync.</translation>
+        <translation>Velg hva du vil synkronisere.</translation>
     </message>
     <message>
         <source>General Sync Task</source>
-        <translation>General Sync Task</translation>
+        <translation>Generell synkroniseringsoppgave</translation>
     </message>
     <message>
         <source>Files Shared with Me</source>
-        <translation>Files Shared with Me</translation>
+        <translation>Filer delt med meg</translation>
     </message>
     <message>
         <source>Sync the files and folders others have shared with you.</source>
-        <translation>Sync the files and folders others have shared with you.</translation>
+        <translation>Synkroniser filene og mappene som andre har delt med deg.</translation>
     </message>
     <message>
         <source>Choose a folder on the NAS and a folder on this computer.</source>
-        <translation>Choose a folder on the NAS and a folder on this computer.</translation>
+        <translation>Velg en mappe på NAS-en og en mappe på denne datamaskinen.</translation>
     </message>
     <message>
         <source>This sync task belongs to a different NAS.</source>
-        <translation>This sync task belongs to a different NAS.</translation>
+        <translation>Denne synkroniseringsoppgaven tilhører en annen NAS.</translation>
     </message>
     <message>
         <source>The NAS uses a protocol that this version of Nimbulo Pelora does not support.</source>
-        <translation>The NAS uses a protocol that this version of Nimbulo Pelora does not support.</translation>
+        <translation>NAS-en bruker en protokoll som denne versjonen av Nimbulo Pelora ikke støtter.</translation>
     </message>
     <message>
         <source>The disk is full. Syncing has been paused.</source>
-        <translation>The disk is full. Syncing has been paused.</translation>
+        <translation>Disken er full. Synkroniseringen er satt på pause.</translation>
     </message>
     <message>
         <source>Download changes from the NAS only</source>
-        <translation>Download changes from the NAS only</translation>
+        <translation>Last bare ned endringer fra NAS-en</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be updated. Please try again later.</source>
-        <translation>Nimbulo Pelora could not be updated. Please try again later.</translation>
+        <translation>Nimbulo Pelora kunne ikke oppdateres. Prøv på nytt senere.</translation>
     </message>
     <message>
         <source>You are already connected to this NAS.</source>
-        <translation>You are already connected to this NAS.</translation>
+        <translation>Du er allerede koblet til denne NAS-en.</translation>
     </message>
     <message>
         <source>Changes on network drives may be detected with a delay.</source>
-        <translation>Changes on network drives may be detected with a delay.</translation>
+        <translation>Endringer på nettverksstasjoner kan bli oppdaget med forsinkelse.</translation>
     </message>
     <message>
         <source>The SSL certificate of %1 has changed.</source>
-        <translation>The SSL certificate of %1 has changed.</translation>
+        <translation>SSL-sertifikatet til %1 er endret.</translation>
     </message>
     <message>
         <source>A secure connection to the server cannot be established.</source>
-        <translation>A secure connection to the server cannot be established.</translation>
+        <translation>Kan ikke opprette en sikker tilkobling til serveren.</translation>
     </message>
     <message>
         <source>Welcome!</source>
-        <translation>Welcome!</translation>
+        <translation>Velkommen!</translation>
     </message>
     <message>
         <source>Files in your home folder on the NAS are now in %1.</source>
-        <translation>Files in your home folder on the NAS are now in %1.</translation>
+        <translation>Filene i hjemmemappen din på NAS-en ligger nå i %1.</translation>
     </message>
     <message>
         <source>Files in your home folder on the server are now in %1.</source>
-        <translation>Files in your home folder on the server are now in %1.</translation>
+        <translation>Filene i hjemmemappen din på serveren ligger nå i %1.</translation>
     </message>
     <message>
         <source>The disk is full</source>
-        <translation>The disk is full</translation>
+        <translation>Disken er full</translation>
     </message>
     <message>
         <source>The server&apos;s sync service is outdated</source>
-        <translation>The server&apos;s sync service is outdated</translation>
+        <translation>Synkroniseringstjenesten på serveren er utdatert</translation>
     </message>
     <message>
         <source>The shared folder no longer exists.</source>
-        <translation>The shared folder no longer exists.</translation>
+        <translation>Den delte mappen finnes ikke lenger.</translation>
     </message>
     <message>
         <source>Click to update to Nimbulo Pelora %1</source>
-        <translation>Click to update to Nimbulo Pelora %1</translation>
+        <translation>Klikk for å oppdatere til Nimbulo Pelora %1</translation>
     </message>
     <message>
         <source>This version of Nimbulo Pelora is too old to connect to the server. Please update it.</source>
-        <translation>This version of Nimbulo Pelora is too old to connect to the server. Please update it.</translation>
+        <translation>Denne versjonen av Nimbulo Pelora er for gammel til å koble til serveren. Oppdater programmet.</translation>
     </message>
 </context>
 </TS>
