@@ -5,99 +5,99 @@
     <name>global</name>
     <message>
         <source>Edit</source>
-        <translation>Edit</translation>
+        <translation>Upravit</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <translation>Unlink</translation>
+        <translation>Zrušit propojení</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation>Add</translation>
+        <translation>Přidat</translation>
     </message>
     <message>
         <source>Choose Another Folder</source>
-        <translation>Choose Another Folder</translation>
+        <translation>Zvolit jinou složku</translation>
     </message>
     <message>
         <source>Merge</source>
-        <translation>Merge</translation>
+        <translation>Sloučit</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation>Error</translation>
+        <translation>Chyba</translation>
     </message>
     <message>
         <source>A conflict occurred while syncing this file.</source>
-        <translation>A conflict occurred while syncing this file.</translation>
+        <translation>Při synchronizaci tohoto souboru došlo ke konfliktu.</translation>
     </message>
     <message>
         <source>Invalid parameter.</source>
-        <translation>Invalid parameter.</translation>
+        <translation>Neplatný parametr.</translation>
     </message>
     <message>
         <source>A network error occurred. Please check your network connection and try again.</source>
-        <translation>A network error occurred. Please check your network connection and try again.</translation>
+        <translation>Došlo k chybě sítě. Zkontrolujte připojení k síti a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>Finish</translation>
+        <translation>Dokončit</translation>
     </message>
     <message>
         <source>Local Storage</source>
-        <translation>Local Storage</translation>
+        <translation>Místní úložiště</translation>
     </message>
     <message>
         <source>Reconnect</source>
-        <translation>Reconnect</translation>
+        <translation>Znovu připojit</translation>
     </message>
     <message>
         <source>About</source>
-        <translation>About</translation>
+        <translation>O aplikaci</translation>
     </message>
     <message>
         <source>Testing connection...</source>
-        <translation>Testing connection...</translation>
+        <translation>Testování připojení...</translation>
     </message>
     <message>
         <source>The selected folder is not empty. Files in it will be merged with the files on the server.</source>
-        <translation>The selected folder is not empty. Files in it will be merged with the files on the server.</translation>
+        <translation>Vybraná složka není prázdná. Soubory v ní budou sloučeny se soubory na serveru.</translation>
     </message>
     <message>
         <source>Checking your account...</source>
-        <translation>Checking your account...</translation>
+        <translation>Ověřování účtu...</translation>
     </message>
     <message>
         <source>Connected successfully.</source>
-        <translation>Connected successfully.</translation>
+        <translation>Připojení proběhlo úspěšně.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; already exists. Do you want to merge its contents?</source>
-        <translation>The folder &quot;%1&quot; already exists. Do you want to merge its contents?</translation>
+        <translation>Složka „%1“ již existuje. Chcete sloučit její obsah?</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora automatically when I log in</source>
-        <translation>Start Nimbulo Pelora automatically when I log in</translation>
+        <translation>Automaticky spustit Nimbulo Pelora po přihlášení</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Settings</translation>
+        <translation>Nastavení</translation>
     </message>
     <message>
         <source>Incorrect username or password.</source>
-        <translation>Incorrect username or password.</translation>
+        <translation>Nesprávné uživatelské jméno nebo heslo.</translation>
     </message>
     <message>
         <source>Change Sync Folder</source>
-        <translation>Change Sync Folder</translation>
+        <translation>Změnit synchronizovanou složku</translation>
     </message>
     <message>
         <source>Folder Not Empty</source>
-        <translation>Folder Not Empty</translation>
+        <translation>Složka není prázdná</translation>
     </message>
     <message>
         <source>Folder Path</source>
-        <translation>Folder Path</translation>
+        <translation>Cesta ke složce</translation>
     </message>
     <message>
         <source>ID</source>
@@ -105,39 +105,39 @@
     </message>
     <message>
         <source>Name</source>
-        <translation>Name</translation>
+        <translation>Název</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation>Value</translation>
+        <translation>Hodnota</translation>
     </message>
     <message>
         <source>Get Started with Nimbulo Pelora</source>
-        <translation>Get Started with Nimbulo Pelora</translation>
+        <translation>Začínáme s Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation>Exit</translation>
+        <translation>Ukončit</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation>Pause</translation>
+        <translation>Pozastavit</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation>Resume</translation>
+        <translation>Pokračovat</translation>
     </message>
     <message>
         <source>Recently Updated Files</source>
-        <translation>Recently Updated Files</translation>
+        <translation>Naposledy aktualizované soubory</translation>
     </message>
     <message>
         <source>Up to date</source>
-        <translation>Up to date</translation>
+        <translation>Aktuální</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation>Help</translation>
+        <translation>Nápověda</translation>
     </message>
     <message>
         <source>OK</source>
@@ -145,59 +145,59 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation>Delete</translation>
+        <translation>Odstranit</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation>Back</translation>
+        <translation>Zpět</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation>Next</translation>
+        <translation>Další</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>Cancel</translation>
+        <translation>Zrušit</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation>Version</translation>
+        <translation>Verze</translation>
     </message>
     <message>
         <source>Open Nimbulo Pelora</source>
-        <translation>Open Nimbulo Pelora</translation>
+        <translation>Otevřít Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Detecting changes...</source>
-        <translation>Detecting changes...</translation>
+        <translation>Zjišťování změn...</translation>
     </message>
     <message>
         <source>Disconnected from the server.</source>
-        <translation>Disconnected from the server.</translation>
+        <translation>Spojení se serverem bylo přerušeno.</translation>
     </message>
     <message>
         <source>Enable Sync</source>
-        <translation>Enable Sync</translation>
+        <translation>Povolit synchronizaci</translation>
     </message>
     <message>
         <source>Authentication failed</source>
-        <translation>Authentication failed</translation>
+        <translation>Ověření se nezdařilo</translation>
     </message>
     <message>
         <source>Direct connection</source>
-        <translation>Direct connection</translation>
+        <translation>Přímé připojení</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation>Local network</translation>
+        <translation>Místní síť</translation>
     </message>
     <message>
         <source>Checking connection...</source>
-        <translation>Checking connection...</translation>
+        <translation>Kontrola připojení...</translation>
     </message>
     <message>
         <source>Relay connection</source>
-        <translation>Relay connection</translation>
+        <translation>Přenosové připojení</translation>
     </message>
     <message>
         <source>Internet</source>
@@ -205,111 +205,111 @@
     </message>
     <message>
         <source>Unable to connect automatically because of a system error.</source>
-        <translation>Unable to connect automatically because of a system error.</translation>
+        <translation>Automatické připojení se nezdařilo kvůli systémové chybě.</translation>
     </message>
     <message>
         <source>Sharing links are disabled on the server. Please contact your administrator.</source>
-        <translation>Sharing links are disabled on the server. Please contact your administrator.</translation>
+        <translation>Odkazy pro sdílení jsou na serveru zakázány. Obraťte se na správce.</translation>
     </message>
     <message>
         <source>%1 files updated</source>
-        <translation>%1 files updated</translation>
+        <translation>Aktualizované soubory: %1</translation>
     </message>
     <message>
         <source>You have read-only permission for this folder. Local changes will not be uploaded.</source>
-        <translation>You have read-only permission for this folder. Local changes will not be uploaded.</translation>
+        <translation>K této složce máte oprávnění jen pro čtení. Místní změny nebudou nahrány.</translation>
     </message>
     <message>
         <source>Your storage quota on the server is full. Free up some space to continue syncing.</source>
-        <translation>Your storage quota on the server is full. Free up some space to continue syncing.</translation>
+        <translation>Vaše kvóta úložiště na serveru je vyčerpána. Uvolněte místo, aby synchronizace mohla pokračovat.</translation>
     </message>
     <message>
         <source>Connection Type</source>
-        <translation>Connection Type</translation>
+        <translation>Typ připojení</translation>
     </message>
     <message>
         <source>Connection Information</source>
-        <translation>Connection Information</translation>
+        <translation>Informace o připojení</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation>Change</translation>
+        <translation>Změnit</translation>
     </message>
     <message>
         <source>Please select a folder.</source>
-        <translation>Please select a folder.</translation>
+        <translation>Vyberte složku.</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation>Information</translation>
+        <translation>Informace</translation>
     </message>
     <message>
         <source>Unable to connect automatically. Please check the server address and try again.</source>
-        <translation>Unable to connect automatically. Please check the server address and try again.</translation>
+        <translation>Automatické připojení se nezdařilo. Zkontrolujte adresu serveru a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Shared Folders</source>
-        <translation>Shared Folders</translation>
+        <translation>Sdílené složky</translation>
     </message>
     <message>
         <source>Your changes have not been saved. Do you want to discard them?</source>
-        <translation>Your changes have not been saved. Do you want to discard them?</translation>
+        <translation>Změny nebyly uloženy. Chcete je zahodit?</translation>
     </message>
     <message>
         <source>Quota full</source>
-        <translation>Quota full</translation>
+        <translation>Kvóta vyčerpána</translation>
     </message>
     <message>
         <source>Local Folder</source>
-        <translation>Local Folder</translation>
+        <translation>Místní složka</translation>
     </message>
     <message>
         <source>Unable to enable syncing for this shared folder.</source>
-        <translation>Unable to enable syncing for this shared folder.</translation>
+        <translation>Synchronizaci této sdílené složky nelze povolit.</translation>
     </message>
     <message>
         <source>This folder conflicts with another sync task.</source>
-        <translation>This folder conflicts with another sync task.</translation>
+        <translation>Tato složka je v konfliktu s jinou úlohou synchronizace.</translation>
     </message>
     <message>
         <source>You have reached the maximum number of synced shared folders.</source>
-        <translation>You have reached the maximum number of synced shared folders.</translation>
+        <translation>Dosáhli jste maximálního počtu synchronizovaných sdílených složek.</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation>Applying settings...</translation>
+        <translation>Použití nastavení...</translation>
     </message>
     <message>
         <source>Please enter a port number between 1 and 65535.</source>
-        <translation>Please enter a port number between 1 and 65535.</translation>
+        <translation>Zadejte číslo portu v rozsahu 1 až 65535.</translation>
     </message>
     <message>
         <source>Shared Folder</source>
-        <translation>Shared Folder</translation>
+        <translation>Sdílená složka</translation>
     </message>
     <message>
         <source>Please enter the proxy server address and port.</source>
-        <translation>Please enter the proxy server address and port.</translation>
+        <translation>Zadejte adresu a port proxy serveru.</translation>
     </message>
     <message>
         <source>Please enter your username.</source>
-        <translation>Please enter your username.</translation>
+        <translation>Zadejte uživatelské jméno.</translation>
     </message>
     <message>
         <source>Manual proxy configuration</source>
-        <translation>Manual proxy configuration</translation>
+        <translation>Ruční konfigurace proxy</translation>
     </message>
     <message>
         <source>No proxy</source>
-        <translation>No proxy</translation>
+        <translation>Bez proxy</translation>
     </message>
     <message>
         <source>Use system proxy settings</source>
-        <translation>Use system proxy settings</translation>
+        <translation>Použít systémové nastavení proxy</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation>Password</translation>
+        <translation>Heslo</translation>
     </message>
     <message>
         <source>Port</source>
@@ -321,1319 +321,1319 @@
     </message>
     <message>
         <source>No changes to apply.</source>
-        <translation>No changes to apply.</translation>
+        <translation>Žádné změny k použití.</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation>Status</translation>
+        <translation>Stav</translation>
     </message>
     <message>
         <source>Username</source>
-        <translation>Username</translation>
+        <translation>Uživatelské jméno</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation>Apply</translation>
+        <translation>Použít</translation>
     </message>
     <message>
         <source>Proxy server requires authentication</source>
-        <translation>Proxy server requires authentication</translation>
+        <translation>Proxy server vyžaduje ověření</translation>
     </message>
     <message>
         <source>Updating files...</source>
-        <translation>Updating files...</translation>
+        <translation>Aktualizace souborů...</translation>
     </message>
     <message>
         <source>Conflicting changes are kept in both copies: the local copy is renamed with the computer name.</source>
-        <translation>Conflicting changes are kept in both copies: the local copy is renamed with the computer name.</translation>
+        <translation>Konfliktní změny se uchovají v obou kopiích: místní kopie se přejmenuje podle názvu počítače.</translation>
     </message>
     <message>
         <source>Server Address</source>
-        <translation>Server Address</translation>
+        <translation>Adresa serveru</translation>
     </message>
     <message>
         <source>Enter the server&apos;s IP address, host name or relay ID.</source>
-        <translation>Enter the server&apos;s IP address, host name or relay ID.</translation>
+        <translation>Zadejte IP adresu serveru, název hostitele nebo ID přenosu.</translation>
     </message>
     <message>
         <source>The server&apos;s sync service is outdated. Please ask your administrator to update it.</source>
-        <translation>The server&apos;s sync service is outdated. Please ask your administrator to update it.</translation>
+        <translation>Synchronizační služba na serveru je zastaralá. Požádejte správce o její aktualizaci.</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
-        <translation>Show desktop notifications</translation>
+        <translation>Zobrazovat oznámení na ploše</translation>
     </message>
     <message>
         <source>Show sync status on file icons</source>
-        <translation>Show sync status on file icons</translation>
+        <translation>Zobrazovat stav synchronizace na ikonách souborů</translation>
     </message>
     <message>
         <source>Encrypt the connection with SSL</source>
-        <translation>Encrypt the connection with SSL</translation>
+        <translation>Šifrovat připojení pomocí SSL</translation>
     </message>
     <message>
         <source>General</source>
-        <translation>General</translation>
+        <translation>Obecné</translation>
     </message>
     <message>
         <source>Use a monochrome tray icon</source>
-        <translation>Use a monochrome tray icon</translation>
+        <translation>Použít černobílou ikonu v oznamovací oblasti</translation>
     </message>
     <message>
         <source>Sync problem</source>
-        <translation>Sync problem</translation>
+        <translation>Problém se synchronizací</translation>
     </message>
     <message>
         <source>%1 has shared &quot;%2&quot; with you.</source>
-        <translation>%1 has shared &quot;%2&quot; with you.</translation>
+        <translation>Uživatel %1 s vámi sdílí „%2“.</translation>
     </message>
     <message>
         <source>New shared folder</source>
-        <translation>New shared folder</translation>
+        <translation>Nová sdílená složka</translation>
     </message>
     <message>
         <source>Checking files...</source>
-        <translation>Checking files...</translation>
+        <translation>Kontrola souborů...</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation>Continue</translation>
+        <translation>Pokračovat</translation>
     </message>
     <message>
         <source>Selective Sync</source>
-        <translation>Selective Sync</translation>
+        <translation>Selektivní synchronizace</translation>
     </message>
     <message>
         <source>Files and folders matching these rules will not be synced.</source>
-        <translation>Files and folders matching these rules will not be synced.</translation>
+        <translation>Soubory a složky odpovídající těmto pravidlům nebudou synchronizovány.</translation>
     </message>
     <message>
         <source>File extensions:</source>
-        <translation>File extensions:</translation>
+        <translation>Přípony souborů:</translation>
     </message>
     <message>
         <source>Updating Nimbulo Pelora...</source>
-        <translation>Updating Nimbulo Pelora...</translation>
+        <translation>Aktualizace Nimbulo Pelora...</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation>Update</translation>
+        <translation>Aktualizace</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%1 of %2</translation>
+        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>Are you sure you want to stop syncing &quot;%1&quot;?</source>
-        <translation>Are you sure you want to stop syncing &quot;%1&quot;?</translation>
+        <translation>Opravdu chcete ukončit synchronizaci „%1“?</translation>
     </message>
     <message>
         <source>Sharing disabled</source>
-        <translation>Sharing disabled</translation>
+        <translation>Sdílení zakázáno</translation>
     </message>
     <message>
         <source>Mount point not supported</source>
-        <translation>Mount point not supported</translation>
+        <translation>Přípojný bod není podporován</translation>
     </message>
     <message>
         <source>Unable to remove this sync task.</source>
-        <translation>Unable to remove this sync task.</translation>
+        <translation>Tuto úlohu synchronizace nelze odebrat.</translation>
     </message>
     <message>
         <source>The new language will be applied after Nimbulo Pelora restarts.</source>
-        <translation>The new language will be applied after Nimbulo Pelora restarts.</translation>
+        <translation>Nový jazyk se použije po restartování Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>The local disk is full. Free up some space to continue syncing.</source>
-        <translation>The local disk is full. Free up some space to continue syncing.</translation>
+        <translation>Místní disk je plný. Uvolněte místo, aby synchronizace mohla pokračovat.</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink from this server? Your local files will be kept.</source>
-        <translation>Are you sure you want to unlink from this server? Your local files will be kept.</translation>
+        <translation>Opravdu chcete zrušit propojení s tímto serverem? Místní soubory zůstanou zachovány.</translation>
     </message>
     <message>
         <source>Preparing...</source>
-        <translation>Preparing...</translation>
+        <translation>Příprava...</translation>
     </message>
     <message>
         <source>Uploading...</source>
-        <translation>Uploading...</translation>
+        <translation>Nahrávání...</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation>System default</translation>
+        <translation>Jazyk systému</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation>Language:</translation>
+        <translation>Jazyk:</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Loading...</translation>
+        <translation>Načítání...</translation>
     </message>
     <message>
         <source>Syncing %1 files</source>
-        <translation>Syncing %1 files</translation>
+        <translation>Synchronizace souborů: %1</translation>
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Downloading...</translation>
+        <translation>Stahování...</translation>
     </message>
     <message>
         <source>Advanced Settings</source>
-        <translation>Advanced Settings</translation>
+        <translation>Pokročilé nastavení</translation>
     </message>
     <message>
         <source>File names:</source>
-        <translation>File names:</translation>
+        <translation>Názvy souborů:</translation>
     </message>
     <message>
         <source>Blocked Files</source>
-        <translation>Blocked Files</translation>
+        <translation>Blokované soubory</translation>
     </message>
     <message>
         <source>The local sync database is damaged. Please relink this sync task.</source>
-        <translation>The local sync database is damaged. Please relink this sync task.</translation>
+        <translation>Místní databáze synchronizace je poškozená. Propojte tuto úlohu synchronizace znovu.</translation>
     </message>
     <message>
         <source>Maximum file size:</source>
-        <translation>Maximum file size:</translation>
+        <translation>Maximální velikost souboru:</translation>
     </message>
     <message>
         <source>Filter files</source>
-        <translation>Filter files</translation>
+        <translation>Filtrovat soubory</translation>
     </message>
     <message>
         <source>Folder Name</source>
-        <translation>Folder Name</translation>
+        <translation>Název složky</translation>
     </message>
     <message>
         <source>Excluded file types:</source>
-        <translation>Excluded file types:</translation>
+        <translation>Vyloučené typy souborů:</translation>
     </message>
     <message>
         <source>Folders you unselect will be removed from this computer but kept on the server.</source>
-        <translation>Folders you unselect will be removed from this computer but kept on the server.</translation>
+        <translation>Složky, u kterých zrušíte výběr, budou odebrány z tohoto počítače, ale na serveru zůstanou.</translation>
     </message>
     <message>
         <source>Merge mode</source>
-        <translation>Merge mode</translation>
+        <translation>Režim sloučení</translation>
     </message>
     <message>
         <source>Sync Mode</source>
-        <translation>Sync Mode</translation>
+        <translation>Režim synchronizace</translation>
     </message>
     <message>
         <source>Edit Connection</source>
-        <translation>Edit Connection</translation>
+        <translation>Upravit připojení</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation>Paused</translation>
+        <translation>Pozastaveno</translation>
     </message>
     <message>
         <source>A mount point cannot be used as a sync folder.</source>
-        <translation>A mount point cannot be used as a sync folder.</translation>
+        <translation>Přípojný bod nelze použít jako synchronizovanou složku.</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation>Destination</translation>
+        <translation>Cíl</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation>Time</translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>The download was cancelled.</source>
-        <translation>The download was cancelled.</translation>
+        <translation>Stahování bylo zrušeno.</translation>
     </message>
     <message>
         <source>Start Now</source>
-        <translation>Start Now</translation>
+        <translation>Spustit nyní</translation>
     </message>
     <message>
         <source>You do not have permission to perform this operation.</source>
-        <translation>You do not have permission to perform this operation.</translation>
+        <translation>K provedení této operace nemáte oprávnění.</translation>
     </message>
     <message>
         <source>Manage</source>
-        <translation>Manage</translation>
+        <translation>Spravovat</translation>
     </message>
     <message>
         <source>Your storage quota is full</source>
-        <translation>Your storage quota is full</translation>
+        <translation>Vaše kvóta úložiště je vyčerpána</translation>
     </message>
     <message>
         <source>The local disk is full</source>
-        <translation>The local disk is full</translation>
+        <translation>Místní disk je plný</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation>Permission denied</translation>
+        <translation>Přístup odepřen</translation>
     </message>
     <message>
         <source>Version mismatch</source>
-        <translation>Version mismatch</translation>
+        <translation>Neshoda verzí</translation>
     </message>
     <message>
         <source>Unable to get your account information from the server.</source>
-        <translation>Unable to get your account information from the server.</translation>
+        <translation>Informace o vašem účtu nelze ze serveru získat.</translation>
     </message>
     <message>
         <source>Sync problem detected</source>
-        <translation>Sync problem detected</translation>
+        <translation>Zjištěn problém se synchronizací</translation>
     </message>
     <message>
         <source>Computer Name</source>
-        <translation>Computer Name</translation>
+        <translation>Název počítače</translation>
     </message>
     <message>
         <source>The connection is unstable. Retrying...</source>
-        <translation>The connection is unstable. Retrying...</translation>
+        <translation>Připojení je nestabilní. Opakování pokusu...</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation>Downloading %1...</translation>
+        <translation>Stahování %1...</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation>Connecting...</translation>
+        <translation>Připojování...</translation>
     </message>
     <message>
         <source>Retrying sync...</source>
-        <translation>Retrying sync...</translation>
+        <translation>Opakování synchronizace...</translation>
     </message>
     <message>
         <source>Security Warning</source>
-        <translation>Security Warning</translation>
+        <translation>Upozornění zabezpečení</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation>Enabled</translation>
+        <translation>Povoleno</translation>
     </message>
     <message>
         <source>Download completed.</source>
-        <translation>Download completed.</translation>
+        <translation>Stahování bylo dokončeno.</translation>
     </message>
     <message>
         <source>Continue Anyway</source>
-        <translation>Continue Anyway</translation>
+        <translation>Přesto pokračovat</translation>
     </message>
     <message>
         <source>Filter Rules</source>
-        <translation>Filter Rules</translation>
+        <translation>Pravidla filtrování</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation>Action</translation>
+        <translation>Akce</translation>
     </message>
     <message>
         <source>File Name</source>
-        <translation>File Name</translation>
+        <translation>Název souboru</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation>Size</translation>
+        <translation>Velikost</translation>
     </message>
     <message>
         <source>No.</source>
-        <translation>No.</translation>
+        <translation>Č.</translation>
     </message>
     <message>
         <source>Browse Previous Versions</source>
-        <translation>Browse Previous Versions</translation>
+        <translation>Procházet předchozí verze</translation>
     </message>
     <message>
         <source>Disabled</source>
-        <translation>Disabled</translation>
+        <translation>Zakázáno</translation>
     </message>
     <message>
         <source>Stopping sync for &quot;%1&quot; will remove its local copy. Continue?</source>
-        <translation>Stopping sync for &quot;%1&quot; will remove its local copy. Continue?</translation>
+        <translation>Ukončením synchronizace „%1“ se odebere její místní kopie. Pokračovat?</translation>
     </message>
     <message>
         <source>Secure Connection</source>
-        <translation>Secure Connection</translation>
+        <translation>Zabezpečené připojení</translation>
     </message>
     <message>
         <source>Choose the folder on this computer where your files will be synced.</source>
-        <translation>Choose the folder on this computer where your files will be synced.</translation>
+        <translation>Vyberte složku v tomto počítači, do které se budou vaše soubory synchronizovat.</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation>and %1 more</translation>
+        <translation>a %1 dalších</translation>
     </message>
     <message>
         <source>Sharing</source>
-        <translation>Sharing</translation>
+        <translation>Sdílení</translation>
     </message>
     <message>
         <source>Unable to download the file.</source>
-        <translation>Unable to download the file.</translation>
+        <translation>Soubor nelze stáhnout.</translation>
     </message>
     <message>
         <source>Overview</source>
-        <translation>Overview</translation>
+        <translation>Přehled</translation>
     </message>
     <message>
         <source>The server has been replaced or reset</source>
-        <translation>The server has been replaced or reset</translation>
+        <translation>Server byl nahrazen nebo resetován</translation>
     </message>
     <message>
         <source>Certificate verification failed</source>
-        <translation>Certificate verification failed</translation>
+        <translation>Ověření certifikátu se nezdařilo</translation>
     </message>
     <message>
         <source>Syncing...</source>
-        <translation>Syncing...</translation>
+        <translation>Synchronizace...</translation>
     </message>
     <message>
         <source>The server&apos;s SSL certificate could not be verified. The connection may not be secure.</source>
-        <translation>The server&apos;s SSL certificate could not be verified. The connection may not be secure.</translation>
+        <translation>Certifikát SSL serveru nelze ověřit. Připojení nemusí být zabezpečené.</translation>
     </message>
     <message>
         <source>Finished</source>
-        <translation>Finished</translation>
+        <translation>Dokončeno</translation>
     </message>
     <message>
         <source>This sync task is inactive. Click to resume it.</source>
-        <translation>This sync task is inactive. Click to resume it.</translation>
+        <translation>Tato úloha synchronizace je neaktivní. Kliknutím v ní budete pokračovat.</translation>
     </message>
     <message>
         <source>Inactive</source>
-        <translation>Inactive</translation>
+        <translation>Neaktivní</translation>
     </message>
     <message>
         <source>This file cannot be downloaded right now.</source>
-        <translation>This file cannot be downloaded right now.</translation>
+        <translation>Tento soubor teď nelze stáhnout.</translation>
     </message>
     <message>
         <source>Unable to list the previous versions of this file.</source>
-        <translation>Unable to list the previous versions of this file.</translation>
+        <translation>Předchozí verze tohoto souboru nelze zobrazit.</translation>
     </message>
     <message>
         <source>Unable to create a sharing link for this file.</source>
-        <translation>Unable to create a sharing link for this file.</translation>
+        <translation>Pro tento soubor nelze vytvořit odkaz pro sdílení.</translation>
     </message>
     <message>
         <source>Standby</source>
-        <translation>Standby</translation>
+        <translation>Pohotovostní režim</translation>
     </message>
     <message>
         <source>Double-click the tray icon to open the sync folder</source>
-        <translation>Double-click the tray icon to open the sync folder</translation>
+        <translation>Poklepáním na ikonu v oznamovací oblasti otevřete synchronizovanou složku</translation>
     </message>
     <message>
         <source>Indexing folder...</source>
-        <translation>Indexing folder...</translation>
+        <translation>Indexování složky...</translation>
     </message>
     <message>
         <source>Welcome to the Nimbulo Pelora Setup Wizard</source>
-        <translation>Welcome to the Nimbulo Pelora Setup Wizard</translation>
+        <translation>Vítá vás Průvodce instalací Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be initialized.</source>
-        <translation>Nimbulo Pelora could not be initialized.</translation>
+        <translation>Nimbulo Pelora se nepodařilo inicializovat.</translation>
     </message>
     <message>
         <source>&lt; Back</source>
-        <translation>&lt; Back</translation>
+        <translation>&lt; Zpět</translation>
     </message>
     <message>
         <source>Ready to Install Nimbulo Pelora</source>
-        <translation>Ready to Install Nimbulo Pelora</translation>
+        <translation>Připraveno k instalaci Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
-        <translation>Some files that need to be updated are currently in use.</translation>
+        <translation>Některé soubory, které je třeba aktualizovat, se právě používají.</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation>Yes</translation>
+        <translation>Ano</translation>
     </message>
     <message>
         <source>End-User License Agreement</source>
-        <translation>End-User License Agreement</translation>
+        <translation>Licenční smlouva s koncovým uživatelem</translation>
     </message>
     <message>
         <source>Completed the Nimbulo Pelora Setup Wizard</source>
-        <translation>Completed the Nimbulo Pelora Setup Wizard</translation>
+        <translation>Průvodce instalací Nimbulo Pelora byl dokončen</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation>Print</translation>
+        <translation>Tisk</translation>
     </message>
     <message>
         <source>Do not close applications. A reboot will be required.</source>
-        <translation>Do not close applications. A reboot will be required.</translation>
+        <translation>Nezavírat aplikace. Bude nutné restartovat počítač.</translation>
     </message>
     <message>
         <source>Setup Error</source>
-        <translation>Setup Error</translation>
+        <translation>Chyba instalace</translation>
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation>Click the Finish button to exit the Setup Wizard.</translation>
+        <translation>Kliknutím na tlačítko Dokončit ukončíte Průvodce instalací.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been installed successfully.</source>
-        <translation>Nimbulo Pelora has been installed successfully.</translation>
+        <translation>Nimbulo Pelora byla úspěšně nainstalována.</translation>
     </message>
     <message>
         <source>Launch Nimbulo Pelora</source>
-        <translation>Launch Nimbulo Pelora</translation>
+        <translation>Spustit Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Change, repair, or remove installation</source>
-        <translation>Change, repair, or remove installation</translation>
+        <translation>Změnit, opravit nebo odebrat instalaci</translation>
     </message>
     <message>
         <source>Lets you change the way features are installed.</source>
-        <translation>Lets you change the way features are installed.</translation>
+        <translation>Umožňuje změnit způsob instalace funkcí.</translation>
     </message>
     <message>
         <source>The sync folder is on a volume that is not mounted.</source>
-        <translation>The sync folder is on a volume that is not mounted.</translation>
+        <translation>Synchronizovaná složka je na svazku, který není připojen.</translation>
     </message>
     <message>
         <source>The file version is invalid.</source>
-        <translation>The file version is invalid.</translation>
+        <translation>Verze souboru je neplatná.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation>Remove</translation>
+        <translation>Odebrat</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the Nimbulo Pelora installation?</source>
-        <translation>Are you sure you want to cancel the Nimbulo Pelora installation?</translation>
+        <translation>Opravdu chcete zrušit instalaci Nimbulo Pelora?</translation>
     </message>
     <message>
         <source>Download only</source>
-        <translation>Download only</translation>
+        <translation>Pouze stahovat</translation>
     </message>
     <message>
         <source>You have read-only access to this folder. Changes you make here are not uploaded.</source>
-        <translation>You have read-only access to this folder. Changes you make here are not uploaded.</translation>
+        <translation>K této složce máte přístup jen pro čtení. Změny, které zde provedete, se nenahrají.</translation>
     </message>
     <message>
         <source>Please read the following license agreement carefully.</source>
-        <translation>Please read the following license agreement carefully.</translation>
+        <translation>Pečlivě si přečtěte následující licenční smlouvu.</translation>
     </message>
     <message>
         <source>Please read the license agreement and accept it to continue.</source>
-        <translation>Please read the license agreement and accept it to continue.</translation>
+        <translation>Chcete-li pokračovat, přečtěte si licenční smlouvu a přijměte ji.</translation>
     </message>
     <message>
         <source>Cancel Setup</source>
-        <translation>Cancel Setup</translation>
+        <translation>Zrušit instalaci</translation>
     </message>
     <message>
         <source>Nimbulo Pelora keeps the files on this computer in sync with your NAS.</source>
-        <translation>Nimbulo Pelora keeps the files on this computer in sync with your NAS.</translation>
+        <translation>Nimbulo Pelora udržuje soubory v tomto počítači synchronizované s vaším NAS.</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation>Ignore</translation>
+        <translation>Ignorovat</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation>Install</translation>
+        <translation>Instalovat</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation>Read-only</translation>
+        <translation>Jen pro čtení</translation>
     </message>
     <message>
         <source>Next &gt;</source>
-        <translation>Next &gt;</translation>
+        <translation>Další &gt;</translation>
     </message>
     <message>
         <source>No</source>
-        <translation>No</translation>
+        <translation>Ne</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation>Repair</translation>
+        <translation>Opravit</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation>Retry</translation>
+        <translation>Opakovat</translation>
     </message>
     <message>
         <source>Sync Status</source>
-        <translation>Sync Status</translation>
+        <translation>Stav synchronizace</translation>
     </message>
     <message>
         <source>The local sync folder &quot;%1&quot; cannot be found. It may have been moved or deleted.</source>
-        <translation>The local sync folder &quot;%1&quot; cannot be found. It may have been moved or deleted.</translation>
+        <translation>Místní synchronizovanou složku „%1“ nelze najít. Mohla být přesunuta nebo odstraněna.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora Setup ended prematurely because of an error. Your system has not been modified.</source>
-        <translation>Nimbulo Pelora Setup ended prematurely because of an error. Your system has not been modified.</translation>
+        <translation>Instalace Nimbulo Pelora byla kvůli chybě předčasně ukončena. Systém nebyl změněn.</translation>
     </message>
     <message>
         <source>To install this program at a later time, run the Setup Wizard again. Click Finish to exit.</source>
-        <translation>To install this program at a later time, run the Setup Wizard again. Click Finish to exit.</translation>
+        <translation>Chcete-li tento program nainstalovat později, spusťte znovu Průvodce instalací. Kliknutím na Dokončit průvodce ukončíte.</translation>
     </message>
     <message>
         <source>Setup Ended Prematurely</source>
-        <translation>Setup Ended Prematurely</translation>
+        <translation>Instalace byla předčasně ukončena</translation>
     </message>
     <message>
         <source>Close all applications and try to restart them.</source>
-        <translation>Close all applications and try to restart them.</translation>
+        <translation>Zavřít všechny aplikace a pokusit se je restartovat.</translation>
     </message>
     <message>
         <source>Close the applications that use files Setup needs to update.</source>
-        <translation>Close the applications that use files Setup needs to update.</translation>
+        <translation>Zavřete aplikace, které používají soubory, jež musí instalační program aktualizovat.</translation>
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</source>
-        <translation>The following applications are using files that Setup needs to update. Close them and click Retry to continue.</translation>
+        <translation>Následující aplikace používají soubory, které musí instalační program aktualizovat. Zavřete je a pokračujte kliknutím na Opakovat.</translation>
     </message>
     <message>
         <source>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts and registry entries.</source>
-        <translation>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts and registry entries.</translation>
+        <translation>Opraví chyby v poslední instalaci doplněním chybějících a poškozených souborů, zástupců a položek registru.</translation>
     </message>
     <message>
         <source>The following applications are using files that need to be updated.\nClose them, or let Setup close them and attempt to restart them.</source>
-        <translation>The following applications are using files that need to be updated.\nClose them, or let Setup close them and attempt to restart them.</translation>
+        <translation>Následující aplikace používají soubory, které je třeba aktualizovat.\nZavřete je, nebo je nechte zavřít instalačním programem a zkusit je znovu spustit.</translation>
     </message>
     <message>
         <source>Files in Use</source>
-        <translation>Files in Use</translation>
+        <translation>Používané soubory</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has no independent features to select.</source>
-        <translation>Nimbulo Pelora has no independent features to select.</translation>
+        <translation>Nimbulo Pelora nemá žádné samostatné funkce k výběru.</translation>
     </message>
     <message>
         <source>Change the installed features</source>
-        <translation>Change the installed features</translation>
+        <translation>Změnit nainstalované funkce</translation>
     </message>
     <message>
         <source>Select the operation you wish to perform.</source>
-        <translation>Select the operation you wish to perform.</translation>
+        <translation>Vyberte operaci, kterou chcete provést.</translation>
     </message>
     <message>
         <source>Removes Nimbulo Pelora from your computer.</source>
-        <translation>Removes Nimbulo Pelora from your computer.</translation>
+        <translation>Odebere Nimbulo Pelora z tohoto počítače.</translation>
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation>Remove the installation</translation>
+        <translation>Odebrat instalaci</translation>
     </message>
     <message>
         <source>Repair the installation</source>
-        <translation>Repair the installation</translation>
+        <translation>Opravit instalaci</translation>
     </message>
     <message>
         <source>Select the operation you wish to perform.\nYour sync settings are kept.</source>
-        <translation>Select the operation you wish to perform.\nYour sync settings are kept.</translation>
+        <translation>Vyberte operaci, kterou chcete provést.\nNastavení synchronizace zůstane zachováno.</translation>
     </message>
     <message>
         <source>The Setup Wizard allows you to change the way Nimbulo Pelora is installed, repair it, or remove it from your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>The Setup Wizard allows you to change the way Nimbulo Pelora is installed, repair it, or remove it from your computer. Click Next to continue or Cancel to exit.</translation>
+        <translation>Průvodce instalací umožňuje změnit způsob instalace Nimbulo Pelora, opravit ji nebo ji z počítače odebrat. Pokračujte kliknutím na Další, průvodce ukončíte kliknutím na Zrušit.</translation>
     </message>
     <message>
         <source>Welcome to Nimbulo Pelora Setup</source>
-        <translation>Welcome to Nimbulo Pelora Setup</translation>
+        <translation>Vítá vás instalace Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Nimbulo Pelora.</source>
-        <translation>Please wait while the Setup Wizard installs Nimbulo Pelora.</translation>
+        <translation>Počkejte, než Průvodce instalací nainstaluje Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>This may take a few minutes.</source>
-        <translation>This may take a few minutes.</translation>
+        <translation>Může to trvat několik minut.</translation>
     </message>
     <message>
         <source>Installing Nimbulo Pelora...</source>
-        <translation>Installing Nimbulo Pelora...</translation>
+        <translation>Instalace Nimbulo Pelora...</translation>
     </message>
     <message>
         <source>Installing Nimbulo Pelora</source>
-        <translation>Installing Nimbulo Pelora</translation>
+        <translation>Instalace Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</translation>
+        <translation>Kliknutím na Instalovat zahájíte instalaci. Kliknutím na Zpět můžete zkontrolovat nebo změnit nastavení instalace. Kliknutím na Zrušit průvodce ukončíte.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to begin the installation.</source>
-        <translation>The Setup Wizard is ready to begin the installation.</translation>
+        <translation>Průvodce instalací je připraven zahájit instalaci.</translation>
     </message>
     <message>
         <source>Click Install to begin.</source>
-        <translation>Click Install to begin.</translation>
+        <translation>Kliknutím na Instalovat zahájíte instalaci.</translation>
     </message>
     <message>
         <source>Click Remove to remove Nimbulo Pelora from your computer. Your synced files are kept.</source>
-        <translation>Click Remove to remove Nimbulo Pelora from your computer. Your synced files are kept.</translation>
+        <translation>Kliknutím na Odebrat odeberete Nimbulo Pelora z tohoto počítače. Synchronizované soubory zůstanou zachovány.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to remove Nimbulo Pelora.</source>
-        <translation>The Setup Wizard is ready to remove Nimbulo Pelora.</translation>
+        <translation>Průvodce instalací je připraven odebrat Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Click Remove to begin.</source>
-        <translation>Click Remove to begin.</translation>
+        <translation>Kliknutím na Odebrat zahájíte odebrání.</translation>
     </message>
     <message>
         <source>Remove Nimbulo Pelora</source>
-        <translation>Remove Nimbulo Pelora</translation>
+        <translation>Odebrat Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of Nimbulo Pelora.</source>
-        <translation>Click Repair to repair the installation of Nimbulo Pelora.</translation>
+        <translation>Kliknutím na Opravit opravíte instalaci Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>The Setup Wizard is ready to repair Nimbulo Pelora.</source>
-        <translation>The Setup Wizard is ready to repair Nimbulo Pelora.</translation>
+        <translation>Průvodce instalací je připraven opravit Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Click Repair to begin.</source>
-        <translation>Click Repair to begin.</translation>
+        <translation>Kliknutím na Opravit zahájíte opravu.</translation>
     </message>
     <message>
         <source>Repair Nimbulo Pelora</source>
-        <translation>Repair Nimbulo Pelora</translation>
+        <translation>Opravit Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Nimbulo Pelora Setup was interrupted. Your system has not been modified.</source>
-        <translation>Nimbulo Pelora Setup was interrupted. Your system has not been modified.</translation>
+        <translation>Instalace Nimbulo Pelora byla přerušena. Systém nebyl změněn.</translation>
     </message>
     <message>
         <source>To install this program at a later time, run the installation again. Click Finish to exit the wizard.</source>
-        <translation>To install this program at a later time, run the installation again. Click Finish to exit the wizard.</translation>
+        <translation>Chcete-li tento program nainstalovat později, spusťte instalaci znovu. Kliknutím na Dokončit průvodce ukončíte.</translation>
     </message>
     <message>
         <source>Setup Interrupted</source>
-        <translation>Setup Interrupted</translation>
+        <translation>Instalace byla přerušena</translation>
     </message>
     <message>
         <source>The Setup Wizard will install Nimbulo Pelora on your computer. Click Next to continue or Cancel to exit.</source>
-        <translation>The Setup Wizard will install Nimbulo Pelora on your computer. Click Next to continue or Cancel to exit.</translation>
+        <translation>Průvodce instalací nainstaluje Nimbulo Pelora do tohoto počítače. Pokračujte kliknutím na Další, průvodce ukončíte kliknutím na Zrušit.</translation>
     </message>
     <message>
         <source>Change, repair or remove Nimbulo Pelora.</source>
-        <translation>Change, repair or remove Nimbulo Pelora.</translation>
+        <translation>Změna, oprava nebo odebrání Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Setup has finished.</source>
-        <translation>Setup has finished.</translation>
+        <translation>Instalace byla dokončena.</translation>
     </message>
     <message>
         <source>Setup was cancelled.</source>
-        <translation>Setup was cancelled.</translation>
+        <translation>Instalace byla zrušena.</translation>
     </message>
     <message>
         <source>An error occurred during setup.</source>
-        <translation>An error occurred during setup.</translation>
+        <translation>Během instalace došlo k chybě.</translation>
     </message>
     <message>
         <source>This wizard guides you through the installation.</source>
-        <translation>This wizard guides you through the installation.</translation>
+        <translation>Tento průvodce vás provede instalací.</translation>
     </message>
     <message>
         <source>I accept the terms in the License Agreement</source>
-        <translation>I accept the terms in the License Agreement</translation>
+        <translation>Souhlasím s podmínkami licenční smlouvy</translation>
     </message>
     <message>
         <source>Connect to Another NAS</source>
-        <translation>Connect to Another NAS</translation>
+        <translation>Připojit se k jinému NAS</translation>
     </message>
     <message>
         <source>Sync History</source>
-        <translation>Sync History</translation>
+        <translation>Historie synchronizace</translation>
     </message>
     <message>
         <source>Sync enabled</source>
-        <translation>Sync enabled</translation>
+        <translation>Synchronizace povolena</translation>
     </message>
     <message>
         <source>Folders to Sync</source>
-        <translation>Folders to Sync</translation>
+        <translation>Složky k synchronizaci</translation>
     </message>
     <message>
         <source>Your files, on every device.</source>
-        <translation>Your files, on every device.</translation>
+        <translation>Vaše soubory na všech zařízeních.</translation>
     </message>
     <message>
         <source>Your files will now sync in the background. You can find them in %1.</source>
-        <translation>Your files will now sync in the background. You can find them in %1.</translation>
+        <translation>Vaše soubory se nyní budou synchronizovat na pozadí. Najdete je v %1.</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink the sync task &quot;%1&quot;? Files already on this computer are kept.</source>
-        <translation>Are you sure you want to unlink the sync task &quot;%1&quot;? Files already on this computer are kept.</translation>
+        <translation>Opravdu chcete zrušit propojení úlohy synchronizace „%1“? Soubory, které již jsou v tomto počítači, zůstanou zachovány.</translation>
     </message>
     <message>
         <source>File Filters</source>
-        <translation>File Filters</translation>
+        <translation>Filtry souborů</translation>
     </message>
     <message>
         <source>Created</source>
-        <translation>Created</translation>
+        <translation>Vytvořeno</translation>
     </message>
     <message>
         <source>Show an icon on files that are not synced</source>
-        <translation>Show an icon on files that are not synced</translation>
+        <translation>Zobrazovat ikonu u souborů, které nejsou synchronizovány</translation>
     </message>
     <message>
         <source>The relay ID &quot;%1&quot; does not exist.</source>
-        <translation>The relay ID &quot;%1&quot; does not exist.</translation>
+        <translation>ID přenosu „%1“ neexistuje.</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation>Yesterday</translation>
+        <translation>Včera</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation>Preferences</translation>
+        <translation>Předvolby</translation>
     </message>
     <message>
         <source>Sync Tasks</source>
-        <translation>Sync Tasks</translation>
+        <translation>Úlohy synchronizace</translation>
     </message>
     <message>
         <source>The server has changed. Please check your sync tasks.</source>
-        <translation>The server has changed. Please check your sync tasks.</translation>
+        <translation>Server se změnil. Zkontrolujte úlohy synchronizace.</translation>
     </message>
     <message>
         <source>The shared folder is not mounted on the server.</source>
-        <translation>The shared folder is not mounted on the server.</translation>
+        <translation>Sdílená složka není na serveru připojena.</translation>
     </message>
     <message>
         <source>The remote folder is not available. It may be on an encrypted shared folder that is not mounted.</source>
-        <translation>The remote folder is not available. It may be on an encrypted shared folder that is not mounted.</translation>
+        <translation>Vzdálená složka není dostupná. Může být v šifrované sdílené složce, která není připojena.</translation>
     </message>
     <message>
         <source>Files beginning with a dot</source>
-        <translation>Files beginning with a dot</translation>
+        <translation>Soubory začínající tečkou</translation>
     </message>
     <message>
         <source>Nimbulo Pelora %1 is already installed.\nDo you want to reinstall it?</source>
-        <translation>Nimbulo Pelora %1 is already installed.\nDo you want to reinstall it?</translation>
+        <translation>Nimbulo Pelora %1 je již nainstalována.\nChcete ji přeinstalovat?</translation>
     </message>
     <message>
         <source>You need administrator privileges to install Nimbulo Pelora.\nPlease run the installer as an administrator.</source>
-        <translation>You need administrator privileges to install Nimbulo Pelora.\nPlease run the installer as an administrator.</translation>
+        <translation>K instalaci Nimbulo Pelora potřebujete oprávnění správce.\nSpusťte instalační program jako správce.</translation>
     </message>
     <message>
         <source>Sync your files with Nimbulo Pelora</source>
-        <translation>Sync your files with Nimbulo Pelora</translation>
+        <translation>Synchronizujte soubory s Nimbulo Pelora</translation>
     </message>
     <message>
         <source>File sharing is not available over a LinkVane connection.</source>
-        <translation>File sharing is not available over a LinkVane connection.</translation>
+        <translation>Sdílení souborů není přes připojení LinkVane dostupné.</translation>
     </message>
     <message>
         <source>Tue</source>
-        <translation>Tue</translation>
+        <translation>Út</translation>
     </message>
     <message>
         <source>Open Containing Folder</source>
-        <translation>Open Containing Folder</translation>
+        <translation>Otevřít nadřazenou složku</translation>
     </message>
     <message>
         <source>Choose how you want to set up Nimbulo Pelora.</source>
-        <translation>Choose how you want to set up Nimbulo Pelora.</translation>
+        <translation>Zvolte, jak chcete Nimbulo Pelora nastavit.</translation>
     </message>
     <message>
         <source>Quick Setup</source>
-        <translation>Quick Setup</translation>
+        <translation>Rychlé nastavení</translation>
     </message>
     <message>
         <source>Right-click a file in the sync folder to share it or browse its previous versions.</source>
-        <translation>Right-click a file in the sync folder to share it or browse its previous versions.</translation>
+        <translation>Klikněte pravým tlačítkem na soubor v synchronizované složce a můžete ho sdílet nebo procházet jeho předchozí verze.</translation>
     </message>
     <message>
         <source>Got it</source>
-        <translation>Got it</translation>
+        <translation>Rozumím</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation>Search</translation>
+        <translation>Hledat</translation>
     </message>
     <message>
         <source>Open the tray menu at any time to see what is syncing.</source>
-        <translation>Open the tray menu at any time to see what is syncing.</translation>
+        <translation>Nabídku v oznamovací oblasti můžete kdykoli otevřít a zjistit, co se synchronizuje.</translation>
     </message>
     <message>
         <source>Changes you make are uploaded as soon as you save them.</source>
-        <translation>Changes you make are uploaded as soon as you save them.</translation>
+        <translation>Provedené změny se nahrají hned po uložení.</translation>
     </message>
     <message>
         <source>%1 hours ago</source>
-        <translation>%1 hours ago</translation>
+        <translation>před %1 h</translation>
     </message>
     <message>
         <source>Do Not Sync This Folder</source>
-        <translation>Do Not Sync This Folder</translation>
+        <translation>Nesynchronizovat tuto složku</translation>
     </message>
     <message>
         <source>History</source>
-        <translation>History</translation>
+        <translation>Historie</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation>Folder</translation>
+        <translation>Složka</translation>
     </message>
     <message>
         <source>Create a new folder on the NAS to sync with this computer.</source>
-        <translation>Create a new folder on the NAS to sync with this computer.</translation>
+        <translation>Vytvořte na NAS novou složku, která se bude synchronizovat s tímto počítačem.</translation>
     </message>
     <message>
         <source>From</source>
-        <translation>From</translation>
+        <translation>Od</translation>
     </message>
     <message>
         <source>Folder Already Synced</source>
-        <translation>Folder Already Synced</translation>
+        <translation>Složka je již synchronizována</translation>
     </message>
     <message>
         <source>This folder is already being synced by another sync task.</source>
-        <translation>This folder is already being synced by another sync task.</translation>
+        <translation>Tuto složku již synchronizuje jiná úloha synchronizace.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation>Rename</translation>
+        <translation>Přejmenovat</translation>
     </message>
     <message>
         <source>Preparing to sync...</source>
-        <translation>Preparing to sync...</translation>
+        <translation>Příprava synchronizace...</translation>
     </message>
     <message>
         <source>Recently Changed</source>
-        <translation>Recently Changed</translation>
+        <translation>Nedávno změněné</translation>
     </message>
     <message>
         <source>%1 days ago</source>
-        <translation>%1 days ago</translation>
+        <translation>před %1 d</translation>
     </message>
     <message>
         <source>Just now</source>
-        <translation>Just now</translation>
+        <translation>Právě teď</translation>
     </message>
     <message>
         <source>%1 minutes ago</source>
-        <translation>%1 minutes ago</translation>
+        <translation>před %1 min</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation>%1 items</translation>
+        <translation>Položky: %1</translation>
     </message>
     <message>
         <source>Modified Time</source>
-        <translation>Modified Time</translation>
+        <translation>Čas změny</translation>
     </message>
     <message>
         <source>Keyword</source>
-        <translation>Keyword</translation>
+        <translation>Klíčové slovo</translation>
     </message>
     <message>
         <source>Last month</source>
-        <translation>Last month</translation>
+        <translation>Minulý měsíc</translation>
     </message>
     <message>
         <source>Last week</source>
-        <translation>Last week</translation>
+        <translation>Minulý týden</translation>
     </message>
     <message>
         <source>Resume Syncing This Folder</source>
-        <translation>Resume Syncing This Folder</translation>
+        <translation>Pokračovat v synchronizaci této složky</translation>
     </message>
     <message>
         <source>Resume Syncing These Folders</source>
-        <translation>Resume Syncing These Folders</translation>
+        <translation>Pokračovat v synchronizaci těchto složek</translation>
     </message>
     <message>
         <source>Do Not Sync These Folders</source>
-        <translation>Do Not Sync These Folders</translation>
+        <translation>Nesynchronizovat tyto složky</translation>
     </message>
     <message>
         <source>No data</source>
-        <translation>No data</translation>
+        <translation>Žádná data</translation>
     </message>
     <message>
         <source>Send to</source>
-        <translation>Send to</translation>
+        <translation>Odeslat do</translation>
     </message>
     <message>
         <source>Currently syncing: %1</source>
-        <translation>Currently syncing: %1</translation>
+        <translation>Právě se synchronizuje: %1</translation>
     </message>
     <message>
         <source>File</source>
-        <translation>File</translation>
+        <translation>Soubor</translation>
     </message>
     <message>
         <source>Search by file name</source>
-        <translation>Search by file name</translation>
+        <translation>Hledat podle názvu souboru</translation>
     </message>
     <message>
         <source>File Type</source>
-        <translation>File Type</translation>
+        <translation>Typ souboru</translation>
     </message>
     <message>
         <source>Fri</source>
-        <translation>Fri</translation>
+        <translation>Pá</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation>Event</translation>
+        <translation>Událost</translation>
     </message>
     <message>
         <source>All events</source>
-        <translation>All events</translation>
+        <translation>Všechny události</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation>Custom</translation>
+        <translation>Vlastní</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>Date</translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Date range</source>
-        <translation>Date range</translation>
+        <translation>Rozsah dat</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation>Download</translation>
+        <translation>Stažení</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation>Reset</translation>
+        <translation>Obnovit výchozí</translation>
     </message>
     <message>
         <source>To</source>
-        <translation>To</translation>
+        <translation>Do</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation>Type</translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Upload</source>
-        <translation>Upload</translation>
+        <translation>Nahrání</translation>
     </message>
     <message>
         <source>Mon</source>
-        <translation>Mon</translation>
+        <translation>Po</translation>
     </message>
     <message>
         <source>Apr</source>
-        <translation>Apr</translation>
+        <translation>dub</translation>
     </message>
     <message>
         <source>Aug</source>
-        <translation>Aug</translation>
+        <translation>srp</translation>
     </message>
     <message>
         <source>Dec</source>
-        <translation>Dec</translation>
+        <translation>pro</translation>
     </message>
     <message>
         <source>Feb</source>
-        <translation>Feb</translation>
+        <translation>úno</translation>
     </message>
     <message>
         <source>Jan</source>
-        <translation>Jan</translation>
+        <translation>led</translation>
     </message>
     <message>
         <source>Jul</source>
-        <translation>Jul</translation>
+        <translation>čvc</translation>
     </message>
     <message>
         <source>Jun</source>
-        <translation>Jun</translation>
+        <translation>čvn</translation>
     </message>
     <message>
         <source>Mar</source>
-        <translation>Mar</translation>
+        <translation>bře</translation>
     </message>
     <message>
         <source>May</source>
-        <translation>May</translation>
+        <translation>kvě</translation>
     </message>
     <message>
         <source>Nov</source>
-        <translation>Nov</translation>
+        <translation>lis</translation>
     </message>
     <message>
         <source>Oct</source>
-        <translation>Oct</translation>
+        <translation>říj</translation>
     </message>
     <message>
         <source>Sep</source>
-        <translation>Sep</translation>
+        <translation>zář</translation>
     </message>
     <message>
         <source>Sat</source>
-        <translation>Sat</translation>
+        <translation>So</translation>
     </message>
     <message>
         <source>Sun</source>
-        <translation>Sun</translation>
+        <translation>Ne</translation>
     </message>
     <message>
         <source>Thu</source>
-        <translation>Thu</translation>
+        <translation>Čt</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation>Today</translation>
+        <translation>Dnes</translation>
     </message>
     <message>
         <source>Wed</source>
-        <translation>Wed</translation>
+        <translation>St</translation>
     </message>
     <message>
         <source>Advanced Mode</source>
-        <translation>Advanced Mode</translation>
+        <translation>Rozšířený režim</translation>
     </message>
     <message>
         <source>Don&apos;t show this message again</source>
-        <translation>Don&apos;t show this message again</translation>
+        <translation>Tuto zprávu již nezobrazovat</translation>
     </message>
     <message>
         <source>Your files are now syncing with the folder &quot;%1&quot; on the NAS.</source>
-        <translation>Your files are now syncing with the folder &quot;%1&quot; on the NAS.</translation>
+        <translation>Vaše soubory se nyní synchronizují se složkou „%1“ na NAS.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been set up. Your home folder on the NAS is now synced with this computer.</source>
-        <translation>Nimbulo Pelora has been set up. Your home folder on the NAS is now synced with this computer.</translation>
+        <translation>Nimbulo Pelora je nastavena. Vaše domovská složka na NAS se nyní synchronizuje s tímto počítačem.</translation>
     </message>
     <message>
         <source>Setup Complete</source>
-        <translation>Setup Complete</translation>
+        <translation>Nastavení dokončeno</translation>
     </message>
     <message>
         <source>Files you put in the sync folder are kept up to date on the NAS and on your other devices.</source>
-        <translation>Files you put in the sync folder are kept up to date on the NAS and on your other devices.</translation>
+        <translation>Soubory, které umístíte do synchronizované složky, budou vždy aktuální na NAS i na vašich dalších zařízeních.</translation>
     </message>
     <message>
         <source>The tray icon shows the sync status at a glance.</source>
-        <translation>The tray icon shows the sync status at a glance.</translation>
+        <translation>Ikona v oznamovací oblasti zobrazuje stav synchronizace na první pohled.</translation>
     </message>
     <message>
         <source>Setup Mode</source>
-        <translation>Setup Mode</translation>
+        <translation>Režim nastavení</translation>
     </message>
     <message>
         <source>Sync your home folder on the NAS with a folder on this computer.</source>
-        <translation>Sync your home folder on the NAS with a folder on this computer.</translation>
+        <translation>Synchronizujte domovskou složku na NAS se složkou v tomto počítači.</translation>
     </message>
     <message>
         <source>No, thanks</source>
-        <translation>No, thanks</translation>
+        <translation>Ne, děkuji</translation>
     </message>
     <message>
         <source>Welcome</source>
-        <translation>Welcome</translation>
+        <translation>Vítejte</translation>
     </message>
     <message>
         <source>Sync Folder</source>
-        <translation>Sync Folder</translation>
+        <translation>Synchronizovaná složka</translation>
     </message>
     <message>
         <source>Tray Icon</source>
-        <translation>Tray Icon</translation>
+        <translation>Ikona v oznamovací oblasti</translation>
     </message>
     <message>
         <source>Sharing and Versions</source>
-        <translation>Sharing and Versions</translation>
+        <translation>Sdílení a verze</translation>
     </message>
     <message>
         <source>Search for NAS on the local network</source>
-        <translation>Search for NAS on the local network</translation>
+        <translation>Hledat NAS v místní síti</translation>
     </message>
     <message>
         <source>Connect with LinkVane</source>
-        <translation>Connect with LinkVane</translation>
+        <translation>Připojit přes LinkVane</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Password:</translation>
+        <translation>Heslo:</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation>Username:</translation>
+        <translation>Uživatelské jméno:</translation>
     </message>
     <message>
         <source>Welcome to Nimbulo Pelora</source>
-        <translation>Welcome to Nimbulo Pelora</translation>
+        <translation>Vítá vás Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Show Main Window</source>
-        <translation>Show Main Window</translation>
+        <translation>Zobrazit hlavní okno</translation>
     </message>
     <message>
         <source>Update Available</source>
-        <translation>Update Available</translation>
+        <translation>K dispozici je aktualizace</translation>
     </message>
     <message>
         <source>Folder on the NAS</source>
-        <translation>Folder on the NAS</translation>
+        <translation>Složka na NAS</translation>
     </message>
     <message>
         <source>New Sync Folder</source>
-        <translation>New Sync Folder</translation>
+        <translation>Nová synchronizovaná složka</translation>
     </message>
     <message>
         <source>Sync a new folder</source>
-        <translation>Sync a new folder</translation>
+        <translation>Synchronizovat novou složku</translation>
     </message>
     <message>
         <source>Advanced Setup</source>
-        <translation>Advanced Setup</translation>
+        <translation>Rozšířené nastavení</translation>
     </message>
     <message>
         <source>Open Sync Status</source>
-        <translation>Open Sync Status</translation>
+        <translation>Otevřít stav synchronizace</translation>
     </message>
     <message>
         <source>Choose which folder on the NAS to sync, where to keep it on this computer, and how to sync it.</source>
-        <translation>Choose which folder on the NAS to sync, where to keep it on this computer, and how to sync it.</translation>
+        <translation>Zvolte, kterou složku na NAS chcete synchronizovat, kam ji v tomto počítači uložit a jak ji synchronizovat.</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation>Done</translation>
+        <translation>Hotovo</translation>
     </message>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
-        <translation>Files larger than %1 MB will not be synced.</translation>
+        <translation>Soubory větší než %1 MB nebudou synchronizovány.</translation>
     </message>
     <message>
         <source>Find NAS on the local network</source>
-        <translation>Find NAS on the local network</translation>
+        <translation>Najít NAS v místní síti</translation>
     </message>
     <message>
         <source>You only have read permission for &quot;%1&quot;. Changes made on this computer will not be uploaded.</source>
-        <translation>You only have read permission for &quot;%1&quot;. Changes made on this computer will not be uploaded.</translation>
+        <translation>Pro „%1“ máte jen oprávnění ke čtení. Změny provedené v tomto počítači nebudou nahrány.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be used as a sync folder.</source>
-        <translation>&quot;%1&quot; cannot be used as a sync folder.</translation>
+        <translation>„%1“ nelze použít jako synchronizovanou složku.</translation>
     </message>
     <message>
         <source>More Tips</source>
-        <translation>More Tips</translation>
+        <translation>Další tipy</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; overlaps with the sync folder of another task.</source>
-        <translation>The folder &quot;%1&quot; overlaps with the sync folder of another task.</translation>
+        <translation>Složka „%1“ se překrývá se synchronizovanou složkou jiné úlohy.</translation>
     </message>
     <message>
         <source>This folder is already synced with &quot;%1&quot;.</source>
-        <translation>This folder is already synced with &quot;%1&quot;.</translation>
+        <translation>Tato složka se již synchronizuje s „%1“.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is already synced with a folder on the NAS.</source>
-        <translation>The folder &quot;%1&quot; is already synced with a folder on the NAS.</translation>
+        <translation>Složka „%1“ se již synchronizuje se složkou na NAS.</translation>
     </message>
     <message>
         <source>Create a &quot;Nimbulo&quot; folder in the selected location</source>
-        <translation>Create a &quot;Nimbulo&quot; folder in the selected location</translation>
+        <translation>Vytvořit ve vybraném umístění složku „Nimbulo“</translation>
     </message>
     <message>
         <source>Copy Sharing Link</source>
-        <translation>Copy Sharing Link</translation>
+        <translation>Kopírovat odkaz pro sdílení</translation>
     </message>
     <message>
         <source>Unable to get a sharing link because sharing is disabled on the server.</source>
-        <translation>Unable to get a sharing link because sharing is disabled on the server.</translation>
+        <translation>Odkaz pro sdílení nelze získat, protože sdílení je na serveru zakázáno.</translation>
     </message>
     <message>
         <source>The server&apos;s SSL certificate has changed. Do you trust the new certificate?</source>
-        <translation>The server&apos;s SSL certificate has changed. Do you trust the new certificate?</translation>
+        <translation>Certifikát SSL serveru se změnil. Důvěřujete novému certifikátu?</translation>
     </message>
     <message>
         <source>Your IP address is not allowed to connect to this server.</source>
-        <translation>Your IP address is not allowed to connect to this server.</translation>
+        <translation>Z vaší IP adresy není povoleno připojení k tomuto serveru.</translation>
     </message>
     <message>
         <source>When the same file has been changed on both sides:</source>
-        <translation>When the same file has been changed on both sides:</translation>
+        <translation>Pokud byl stejný soubor změněn na obou stranách:</translation>
     </message>
     <message>
         <source>The sync direction does not match the permissions of this folder.</source>
-        <translation>The sync direction does not match the permissions of this folder.</translation>
+        <translation>Směr synchronizace neodpovídá oprávněním této složky.</translation>
     </message>
     <message>
         <source>Last page</source>
-        <translation>Last page</translation>
+        <translation>Poslední stránka</translation>
     </message>
     <message>
         <source>First page</source>
-        <translation>First page</translation>
+        <translation>První stránka</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation>Previous %1 pages</translation>
+        <translation>Předchozích %1 stránek</translation>
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation>Next %1 pages</translation>
+        <translation>Dalších %1 stránek</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation>Open File</translation>
+        <translation>Otevřít soubor</translation>
     </message>
     <message>
         <source>Open Folder</source>
-        <translation>Open Folder</translation>
+        <translation>Otevřít složku</translation>
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation>Unlinking...</translation>
+        <translation>Rušení propojení...</translation>
     </message>
     <message>
         <source>Too many failed attempts. Please try again later.</source>
-        <translation>Too many failed attempts. Please try again later.</translation>
+        <translation>Příliš mnoho neúspěšných pokusů. Zkuste to znovu později.</translation>
     </message>
     <message>
         <source>This file is locked by another application.</source>
-        <translation>This file is locked by another application.</translation>
+        <translation>Tento soubor je uzamčen jinou aplikací.</translation>
     </message>
     <message>
         <source>Unable to check &quot;%1&quot; because of a network error.</source>
-        <translation>Unable to check &quot;%1&quot; because of a network error.</translation>
+        <translation>„%1“ nelze zkontrolovat kvůli chybě sítě.</translation>
     </message>
     <message>
         <source>Keep the most recently modified version</source>
-        <translation>Keep the most recently modified version</translation>
+        <translation>Ponechat naposledy změněnou verzi</translation>
     </message>
     <message>
         <source>Two-way sync</source>
-        <translation>Two-way sync</translation>
+        <translation>Obousměrná synchronizace</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your account.</source>
-        <translation>Enter the address of your NAS and your account.</translation>
+        <translation>Zadejte adresu svého NAS a údaje účtu.</translation>
     </message>
     <message>
         <source>Unable to create the local folder &quot;%1&quot;.</source>
-        <translation>Unable to create the local folder &quot;%1&quot;.</translation>
+        <translation>Místní složku „%1“ nelze vytvořit.</translation>
     </message>
     <message>
         <source>Select a folder on the NAS and a folder on this computer to sync with each other.</source>
-        <translation>Select a folder on the NAS and a folder on this computer to sync with each other.</translation>
+        <translation>Vyberte složku na NAS a složku v tomto počítači, které se budou vzájemně synchronizovat.</translation>
     </message>
     <message>
         <source>Set Sync Folders</source>
-        <translation>Set Sync Folders</translation>
+        <translation>Nastavit synchronizované složky</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is now syncing &quot;%1&quot; on the NAS with &quot;%2&quot; on this computer.</source>
-        <translation>Nimbulo Pelora is now syncing &quot;%1&quot; on the NAS with &quot;%2&quot; on this computer.</translation>
+        <translation>Nimbulo Pelora nyní synchronizuje „%1“ na NAS s „%2“ v tomto počítači.</translation>
     </message>
     <message>
         <source>When files conflict, the server&apos;s copy is kept and the local copy is backed up.</source>
-        <translation>When files conflict, the server&apos;s copy is kept and the local copy is backed up.</translation>
+        <translation>Při konfliktu souborů se ponechá kopie ze serveru a místní kopie se zálohuje.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora</source>
@@ -1641,47 +1641,47 @@
     </message>
     <message>
         <source>Enable On-demand Sync</source>
-        <translation>Enable On-demand Sync</translation>
+        <translation>Povolit synchronizaci na vyžádání</translation>
     </message>
     <message>
         <source>The verification code is incorrect.</source>
-        <translation>The verification code is incorrect.</translation>
+        <translation>Ověřovací kód je nesprávný.</translation>
     </message>
     <message>
         <source>This account requires a verification code.</source>
-        <translation>This account requires a verification code.</translation>
+        <translation>Tento účet vyžaduje ověřovací kód.</translation>
     </message>
     <message>
         <source>Enter the verification code from your authenticator app:</source>
-        <translation>Enter the verification code from your authenticator app:</translation>
+        <translation>Zadejte ověřovací kód z ověřovací aplikace:</translation>
     </message>
     <message>
         <source>Your quota on the NAS is full. &quot;%1&quot; cannot be synced.</source>
-        <translation>Your quota on the NAS is full. &quot;%1&quot; cannot be synced.</translation>
+        <translation>Vaše kvóta na NAS je vyčerpána. „%1“ nelze synchronizovat.</translation>
     </message>
     <message>
         <source>The server certificate has changed. Unable to sync &quot;%1&quot;.</source>
-        <translation>The server certificate has changed. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Certifikát serveru se změnil. „%1“ nelze synchronizovat.</translation>
     </message>
     <message>
         <source>The server certificate cannot be verified. Unable to sync &quot;%1&quot;.</source>
-        <translation>The server certificate cannot be verified. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Certifikát serveru nelze ověřit. „%1“ nelze synchronizovat.</translation>
     </message>
     <message>
         <source>A system error occurred while checking the sync folder.</source>
-        <translation>A system error occurred while checking the sync folder.</translation>
+        <translation>Při kontrole synchronizované složky došlo k systémové chybě.</translation>
     </message>
     <message>
         <source>Overwrite the local copy with the server&apos;s copy</source>
-        <translation>Overwrite the local copy with the server&apos;s copy</translation>
+        <translation>Přepsat místní kopii kopií ze serveru</translation>
     </message>
     <message>
         <source>Keep both copies and rename the local one</source>
-        <translation>Keep both copies and rename the local one</translation>
+        <translation>Ponechat obě kopie a místní přejmenovat</translation>
     </message>
     <message>
         <source>A newer version of Nimbulo Pelora (%1) is already installed.\nSetup will now exit.</source>
-        <translation>A newer version of Nimbulo Pelora (%1) is already installed.\nSetup will now exit.</translation>
+        <translation>Je již nainstalována novější verze Nimbulo Pelora (%1).\nInstalace bude nyní ukončena.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is ready.</source>
@@ -1693,707 +1693,707 @@
     </message>
     <message>
         <source>No folder that you can sync was found.</source>
-        <translation>No folder that you can sync was found.</translation>
+        <translation>Nebyla nalezena žádná složka, kterou lze synchronizovat.</translation>
     </message>
     <message>
         <source>Show the tutorial</source>
-        <translation>Show the tutorial</translation>
+        <translation>Zobrazit průvodce</translation>
     </message>
     <message>
         <source>Files in the local folder will be merged with the files on the NAS.</source>
-        <translation>Files in the local folder will be merged with the files on the NAS.</translation>
+        <translation>Soubory v místní složce budou sloučeny se soubory na NAS.</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora when the computer starts</source>
-        <translation>Start Nimbulo Pelora when the computer starts</translation>
+        <translation>Spustit Nimbulo Pelora při spuštění počítače</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered an error.</source>
-        <translation>Nimbulo Pelora has encountered an error.</translation>
+        <translation>V Nimbulo Pelora došlo k chybě.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is running.</source>
-        <translation>Nimbulo Pelora is running.</translation>
+        <translation>Nimbulo Pelora je spuštěna.</translation>
     </message>
     <message>
         <source>This version of Nimbulo Pelora is no longer supported. Please update it.</source>
-        <translation>This version of Nimbulo Pelora is no longer supported. Please update it.</translation>
+        <translation>Tato verze Nimbulo Pelora již není podporována. Aktualizujte ji.</translation>
     </message>
     <message>
         <source>Click to update Nimbulo Pelora</source>
-        <translation>Click to update Nimbulo Pelora</translation>
+        <translation>Kliknutím aktualizujete Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Please update the sync service on the server to use selective sync.</source>
-        <translation>Please update the sync service on the server to use selective sync.</translation>
+        <translation>Chcete-li používat selektivní synchronizaci, aktualizujte synchronizační službu na serveru.</translation>
     </message>
     <message>
         <source>There is not enough free space on this computer to sync &quot;%1&quot;.</source>
-        <translation>There is not enough free space on this computer to sync &quot;%1&quot;.</translation>
+        <translation>V tomto počítači není dostatek volného místa pro synchronizaci „%1“.</translation>
     </message>
     <message>
         <source>Sign in to your NAS to start syncing.</source>
-        <translation>Sign in to your NAS to start syncing.</translation>
+        <translation>Synchronizaci zahájíte přihlášením k NAS.</translation>
     </message>
     <message>
         <source>Keep the files on this computer in sync with your NAS.</source>
-        <translation>Keep the files on this computer in sync with your NAS.</translation>
+        <translation>Udržujte soubory v tomto počítači synchronizované s vaším NAS.</translation>
     </message>
     <message>
         <source>Shared folder not found</source>
-        <translation>Shared folder not found</translation>
+        <translation>Sdílená složka nebyla nalezena</translation>
     </message>
     <message>
         <source>About Nimbulo Pelora</source>
-        <translation>About Nimbulo Pelora</translation>
+        <translation>O aplikaci Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Your administrator requires two-step verification. Please enable it in your account settings first.</source>
-        <translation>Your administrator requires two-step verification. Please enable it in your account settings first.</translation>
+        <translation>Správce vyžaduje dvoufázové ověření. Nejprve je povolte v nastavení účtu.</translation>
     </message>
     <message>
         <source>The quota of the shared folder is full.</source>
-        <translation>The quota of the shared folder is full.</translation>
+        <translation>Kvóta sdílené složky je vyčerpána.</translation>
     </message>
     <message>
         <source>Sync Direction</source>
-        <translation>Sync Direction</translation>
+        <translation>Směr synchronizace</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered a problem while syncing. Click for details.</source>
-        <translation>Nimbulo Pelora has encountered a problem while syncing. Click for details.</translation>
+        <translation>V Nimbulo Pelora došlo při synchronizaci k problému. Klikněte pro podrobnosti.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora keeps your files up to date on all of your devices.</source>
-        <translation>Nimbulo Pelora keeps your files up to date on all of your devices.</translation>
+        <translation>Nimbulo Pelora udržuje vaše soubory aktuální na všech vašich zařízeních.</translation>
     </message>
     <message>
         <source>Some fields contain invalid values.</source>
-        <translation>Some fields contain invalid values.</translation>
+        <translation>Některá pole obsahují neplatné hodnoty.</translation>
     </message>
     <message>
         <source>You do not have permission to access &quot;%1&quot;.</source>
-        <translation>You do not have permission to access &quot;%1&quot;.</translation>
+        <translation>Nemáte oprávnění k přístupu do „%1“.</translation>
     </message>
     <message>
         <source>Your account has been disabled. Unable to sync &quot;%1&quot;.</source>
-        <translation>Your account has been disabled. Unable to sync &quot;%1&quot;.</translation>
+        <translation>Váš účet byl zakázán. „%1“ nelze synchronizovat.</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>Address</translation>
+        <translation>Adresa</translation>
     </message>
     <message>
         <source>Expires after</source>
-        <translation>Expires after</translation>
+        <translation>Platnost vyprší po</translation>
     </message>
     <message>
         <source>No options available</source>
-        <translation>No options available</translation>
+        <translation>Nejsou k dispozici žádné možnosti</translation>
     </message>
     <message>
         <source>You need an account on a NAS with the sync service installed.</source>
-        <translation>You need an account on a NAS with the sync service installed.</translation>
+        <translation>Potřebujete účet na NAS s nainstalovanou synchronizační službou.</translation>
     </message>
     <message>
         <source>Authentication failed. Please check your username and password.</source>
-        <translation>Authentication failed. Please check your username and password.</translation>
+        <translation>Ověření se nezdařilo. Zkontrolujte uživatelské jméno a heslo.</translation>
     </message>
     <message>
         <source>Use * to match any characters. Separate entries with commas.</source>
-        <translation>Use * to match any characters. Separate entries with commas.</translation>
+        <translation>Znak * zastupuje libovolné znaky. Položky oddělte čárkami.</translation>
     </message>
     <message>
         <source>One-way download</source>
-        <translation>One-way download</translation>
+        <translation>Jednosměrné stahování</translation>
     </message>
     <message>
         <source>A folder named &quot;%1&quot; already exists.</source>
-        <translation>A folder named &quot;%1&quot; already exists.</translation>
+        <translation>Složka s názvem „%1“ již existuje.</translation>
     </message>
     <message>
         <source>Sync extended attributes</source>
-        <translation>Sync extended attributes</translation>
+        <translation>Synchronizovat rozšířené atributy</translation>
     </message>
     <message>
         <source>I do not accept the terms in the License Agreement</source>
-        <translation>I do not accept the terms in the License Agreement</translation>
+        <translation>Nesouhlasím s podmínkami licenční smlouvy</translation>
     </message>
     <message>
         <source>Sharing Link</source>
-        <translation>Sharing Link</translation>
+        <translation>Odkaz pro sdílení</translation>
     </message>
     <message>
         <source>Expires on</source>
-        <translation>Expires on</translation>
+        <translation>Platnost vyprší dne</translation>
     </message>
     <message>
         <source>This field is required.</source>
-        <translation>This field is required.</translation>
+        <translation>Toto pole je povinné.</translation>
     </message>
     <message>
         <source>Restrict access to users with an account</source>
-        <translation>Restrict access to users with an account</translation>
+        <translation>Omezit přístup na uživatele s účtem</translation>
     </message>
     <message>
         <source>Show Nimbulo Pelora in the context menu</source>
-        <translation>Show Nimbulo Pelora in the context menu</translation>
+        <translation>Zobrazovat Nimbulo Pelora v místní nabídce</translation>
     </message>
     <message>
         <source>The home folder service is disabled on the NAS.</source>
-        <translation>The home folder service is disabled on the NAS.</translation>
+        <translation>Služba domovských složek je na NAS zakázána.</translation>
     </message>
     <message>
         <source>Unable to update Nimbulo Pelora. Please try again later.</source>
-        <translation>Unable to update Nimbulo Pelora. Please try again later.</translation>
+        <translation>Nimbulo Pelora nelze aktualizovat. Zkuste to znovu později.</translation>
     </message>
     <message>
         <source>Apply and Copy Link</source>
-        <translation>Apply and Copy Link</translation>
+        <translation>Použít a zkopírovat odkaz</translation>
     </message>
     <message>
         <source>Limit the number of accesses</source>
-        <translation>Limit the number of accesses</translation>
+        <translation>Omezit počet přístupů</translation>
     </message>
     <message>
         <source>Available from</source>
-        <translation>Available from</translation>
+        <translation>Dostupné od</translation>
     </message>
     <message>
         <source>A new version of Nimbulo Pelora is required to connect to this server. Update now?</source>
-        <translation>A new version of Nimbulo Pelora is required to connect to this server. Update now?</translation>
+        <translation>Pro připojení k tomuto serveru je nutná nová verze Nimbulo Pelora. Aktualizovat nyní?</translation>
     </message>
     <message>
         <source>Add file name</source>
-        <translation>Add file name</translation>
+        <translation>Přidat název souboru</translation>
     </message>
     <message>
         <source>Local destination</source>
-        <translation>Local destination</translation>
+        <translation>Místní cíl</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation>Language</translation>
+        <translation>Jazyk</translation>
     </message>
     <message>
         <source>Remote NAS</source>
-        <translation>Remote NAS</translation>
+        <translation>Vzdálený NAS</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation>This computer</translation>
+        <translation>Tento počítač</translation>
     </message>
     <message>
         <source>Download the selected version</source>
-        <translation>Download the selected version</translation>
+        <translation>Stáhnout vybranou verzi</translation>
     </message>
     <message>
         <source>Custom duration</source>
-        <translation>Custom duration</translation>
+        <translation>Vlastní doba</translation>
     </message>
     <message>
         <source>Refresh sync history</source>
-        <translation>Refresh sync history</translation>
+        <translation>Obnovit historii synchronizace</translation>
     </message>
     <message>
         <source>On-demand Sync</source>
-        <translation>On-demand Sync</translation>
+        <translation>Synchronizace na vyžádání</translation>
     </message>
     <message>
         <source>Filter sync history</source>
-        <translation>Filter sync history</translation>
+        <translation>Filtrovat historii synchronizace</translation>
     </message>
     <message>
         <source>Add folder</source>
-        <translation>Add folder</translation>
+        <translation>Přidat složku</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation>Calendar</translation>
+        <translation>Kalendář</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation>Next month</translation>
+        <translation>Další měsíc</translation>
     </message>
     <message>
         <source>Previous month</source>
-        <translation>Previous month</translation>
+        <translation>Předchozí měsíc</translation>
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation>Change sync folder</translation>
+        <translation>Změnit synchronizovanou složku</translation>
     </message>
     <message>
         <source>Event category</source>
-        <translation>Event category</translation>
+        <translation>Kategorie události</translation>
     </message>
     <message>
         <source>Sync task details</source>
-        <translation>Sync task details</translation>
+        <translation>Podrobnosti úlohy synchronizace</translation>
     </message>
     <message>
         <source>Remote destination</source>
-        <translation>Remote destination</translation>
+        <translation>Vzdálený cíl</translation>
     </message>
     <message>
         <source>Close tutorial</source>
-        <translation>Close tutorial</translation>
+        <translation>Zavřít průvodce</translation>
     </message>
     <message>
         <source>Tutorial: learn how to use Nimbulo Pelora.</source>
-        <translation>Tutorial: learn how to use Nimbulo Pelora.</translation>
+        <translation>Průvodce: naučte se používat Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>Cancel download</source>
-        <translation>Cancel download</translation>
+        <translation>Zrušit stahování</translation>
     </message>
     <message>
         <source>Delete version</source>
-        <translation>Delete version</translation>
+        <translation>Odstranit verzi</translation>
     </message>
     <message>
         <source>Unable to enable On-demand Sync for &quot;%1&quot;.</source>
-        <translation>Unable to enable On-demand Sync for &quot;%1&quot;.</translation>
+        <translation>Synchronizaci na vyžádání nelze pro „%1“ povolit.</translation>
     </message>
     <message>
         <source>This file is not available because there is no connection to the server.</source>
-        <translation>This file is not available because there is no connection to the server.</translation>
+        <translation>Tento soubor není dostupný, protože není k dispozici připojení k serveru.</translation>
     </message>
     <message>
         <source>Renamed on this computer</source>
-        <translation>Renamed on this computer</translation>
+        <translation>Přejmenováno v tomto počítači</translation>
     </message>
     <message>
         <source>Renamed on the server</source>
-        <translation>Renamed on the server</translation>
+        <translation>Přejmenováno na serveru</translation>
     </message>
     <message>
         <source>Please enter no more than %1 characters.</source>
-        <translation>Please enter no more than %1 characters.</translation>
+        <translation>Zadejte nejvýše %1 znaků.</translation>
     </message>
     <message>
         <source>Your password has expired. Please change it on the server and sign in again.</source>
-        <translation>Your password has expired. Please change it on the server and sign in again.</translation>
+        <translation>Platnost hesla vypršela. Změňte je na serveru a přihlaste se znovu.</translation>
     </message>
     <message>
         <source>This folder was synced by a different user. Please choose another folder.</source>
-        <translation>This folder was synced by a different user. Please choose another folder.</translation>
+        <translation>Tuto složku synchronizoval jiný uživatel. Zvolte jinou složku.</translation>
     </message>
     <message>
         <source>Relay connections are disabled on the server.</source>
-        <translation>Relay connections are disabled on the server.</translation>
+        <translation>Přenosová připojení jsou na serveru zakázána.</translation>
     </message>
     <message>
         <source>Authentication failed for &quot;%1&quot;. Please sign in again.</source>
-        <translation>Authentication failed for &quot;%1&quot;. Please sign in again.</translation>
+        <translation>Ověření pro „%1“ se nezdařilo. Přihlaste se znovu.</translation>
     </message>
     <message>
         <source>Unable to get the link to this file.</source>
-        <translation>Unable to get the link to this file.</translation>
+        <translation>Odkaz na tento soubor nelze získat.</translation>
     </message>
     <message>
         <source>Temporary files</source>
-        <translation>Temporary files</translation>
+        <translation>Dočasné soubory</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation>Later</translation>
+        <translation>Později</translation>
     </message>
     <message>
         <source>Congratulations!</source>
-        <translation>Congratulations!</translation>
+        <translation>Blahopřejeme!</translation>
     </message>
     <message>
         <source>Folders others have shared with you</source>
-        <translation>Folders others have shared with you</translation>
+        <translation>Složky, které s vámi sdílejí ostatní</translation>
     </message>
     <message>
         <source>You have read-only access to this folder. Changes you make here stay on this computer.</source>
-        <translation>You have read-only access to this folder. Changes you make here stay on this computer.</translation>
+        <translation>K této složce máte přístup jen pro čtení. Změny, které zde provedete, zůstanou jen v tomto počítači.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is now syncing &quot;%1&quot; on the server with &quot;%2&quot; on this computer.</source>
-        <translation>Nimbulo Pelora is now syncing &quot;%1&quot; on the server with &quot;%2&quot; on this computer.</translation>
+        <translation>Nimbulo Pelora nyní synchronizuje „%1“ na serveru s „%2“ v tomto počítači.</translation>
     </message>
     <message>
         <source>Show the Nimbulo Pelora tutorial</source>
-        <translation>Show the Nimbulo Pelora tutorial</translation>
+        <translation>Zobrazit průvodce Nimbulo Pelora</translation>
     </message>
     <message>
         <source>Nimbulo Pelora is running in the background.</source>
-        <translation>Nimbulo Pelora is running in the background.</translation>
+        <translation>Nimbulo Pelora je spuštěna na pozadí.</translation>
     </message>
     <message>
         <source>Sign in to your server to start syncing.</source>
-        <translation>Sign in to your server to start syncing.</translation>
+        <translation>Synchronizaci zahájíte přihlášením k serveru.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be updated. Please download the latest version and install it again.</source>
-        <translation>Nimbulo Pelora could not be updated. Please download the latest version and install it again.</translation>
+        <translation>Nimbulo Pelora nelze aktualizovat. Stáhněte nejnovější verzi a nainstalujte ji znovu.</translation>
     </message>
     <message>
         <source>You need an account on a server with the sync service installed.</source>
-        <translation>You need an account on a server with the sync service installed.</translation>
+        <translation>Potřebujete účet na serveru s nainstalovanou synchronizační službou.</translation>
     </message>
     <message>
         <source>Conflicting changes are kept in both copies: the server copy is renamed with the user name.</source>
-        <translation>Conflicting changes are kept in both copies: the server copy is renamed with the user name.</translation>
+        <translation>Konfliktní změny se uchovají v obou kopiích: kopie na serveru se přejmenuje podle uživatelského jména.</translation>
     </message>
     <message>
         <source>Tutorial: learn how to sync with Nimbulo Pelora.</source>
-        <translation>Tutorial: learn how to sync with Nimbulo Pelora.</translation>
+        <translation>Průvodce: naučte se synchronizovat s Nimbulo Pelora.</translation>
     </message>
     <message>
         <source>The server ID &quot;%1&quot; does not exist.</source>
-        <translation>The server ID &quot;%1&quot; does not exist.</translation>
+        <translation>ID serveru „%1“ neexistuje.</translation>
     </message>
     <message>
         <source>Start Nimbulo Pelora when I sign in</source>
-        <translation>Start Nimbulo Pelora when I sign in</translation>
+        <translation>Spustit Nimbulo Pelora po přihlášení</translation>
     </message>
     <message>
         <source>Choose a folder on the server and a folder on this computer.</source>
-        <translation>Choose a folder on the server and a folder on this computer.</translation>
+        <translation>Zvolte složku na serveru a složku v tomto počítači.</translation>
     </message>
     <message>
         <source>This sync task belongs to a different server.</source>
-        <translation>This sync task belongs to a different server.</translation>
+        <translation>Tato úloha synchronizace patří k jinému serveru.</translation>
     </message>
     <message>
         <source>The server uses a protocol that this version of Nimbulo Pelora does not support.</source>
-        <translation>The server uses a protocol that this version of Nimbulo Pelora does not support.</translation>
+        <translation>Server používá protokol, který tato verze Nimbulo Pelora nepodporuje.</translation>
     </message>
     <message>
         <source>The disk is full. Nimbulo Pelora has paused syncing.</source>
-        <translation>The disk is full. Nimbulo Pelora has paused syncing.</translation>
+        <translation>Disk je plný. Nimbulo Pelora pozastavila synchronizaci.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has encountered an error. Please restart it.</source>
-        <translation>Nimbulo Pelora has encountered an error. Please restart it.</translation>
+        <translation>V Nimbulo Pelora došlo k chybě. Restartujte ji.</translation>
     </message>
     <message>
         <source>The selected folder is not empty. Its files will be uploaded to the server.</source>
-        <translation>The selected folder is not empty. Its files will be uploaded to the server.</translation>
+        <translation>Vybraná složka není prázdná. Její soubory budou nahrány na server.</translation>
     </message>
     <message>
         <source>Download changes from the server only</source>
-        <translation>Download changes from the server only</translation>
+        <translation>Pouze stahovat změny ze serveru</translation>
     </message>
     <message>
         <source>Your files are now syncing with the folder &quot;%1&quot; on the server.</source>
-        <translation>Your files are now syncing with the folder &quot;%1&quot; on the server.</translation>
+        <translation>Vaše soubory se nyní synchronizují se složkou „%1“ na serveru.</translation>
     </message>
     <message>
         <source>Varnex Pelora %1 is already installed.\nDo you want to reinstall it?</source>
-        <translation>Varnex Pelora %1 is already installed.\nDo you want to reinstall it?</translation>
+        <translation>Varnex Pelora %1 je již nainstalována.\nChcete ji přeinstalovat?</translation>
     </message>
     <message>
         <source>Not enough free space to sync &quot;%1&quot;. Free up some space and try again.</source>
-        <translation>Not enough free space to sync &quot;%1&quot;. Free up some space and try again.</translation>
+        <translation>Nedostatek volného místa pro synchronizaci „%1“. Uvolněte místo a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Keep the files on this computer in sync with your server.</source>
-        <translation>Keep the files on this computer in sync with your server.</translation>
+        <translation>Udržujte soubory v tomto počítači synchronizované s vaším serverem.</translation>
     </message>
     <message>
         <source>Create a &quot;Varnex Pelora&quot; folder in the selected location</source>
-        <translation>Create a &quot;Varnex Pelora&quot; folder in the selected location</translation>
+        <translation>Vytvořit ve vybraném umístění složku „Varnex Pelora“</translation>
     </message>
     <message>
         <source>A newer version of Varnex Pelora (%1) is already installed.\nSetup will now exit.</source>
-        <translation>A newer version of Varnex Pelora (%1) is already installed.\nSetup will now exit.</translation>
+        <translation>Je již nainstalována novější verze Varnex Pelora (%1).\nInstalace bude nyní ukončena.</translation>
     </message>
     <message>
         <source>Sync a folder of your choice on the server.</source>
-        <translation>Sync a folder of your choice on the server.</translation>
+        <translation>Synchronizujte libovolnou složku na serveru.</translation>
     </message>
     <message>
         <source>Automatic setup failed. Please set up Nimbulo Pelora manually.</source>
-        <translation>Automatic setup failed. Please set up Nimbulo Pelora manually.</translation>
+        <translation>Automatické nastavení se nezdařilo. Nastavte Nimbulo Pelora ručně.</translation>
     </message>
     <message>
         <source>Finishing automatic setup...</source>
-        <translation>Finishing automatic setup...</translation>
+        <translation>Dokončování automatického nastavení...</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation>Share</translation>
+        <translation>Sdílet</translation>
     </message>
     <message>
         <source>No data available.</source>
-        <translation>No data available.</translation>
+        <translation>Nejsou k dispozici žádná data.</translation>
     </message>
     <message>
         <source>No shared folders are available.</source>
-        <translation>No shared folders are available.</translation>
+        <translation>Nejsou k dispozici žádné sdílené složky.</translation>
     </message>
     <message>
         <source>The file or folder does not exist.</source>
-        <translation>The file or folder does not exist.</translation>
+        <translation>Soubor nebo složka neexistuje.</translation>
     </message>
     <message>
         <source>Nimbulo Pelora has been configured by your administrator.</source>
-        <translation>Nimbulo Pelora has been configured by your administrator.</translation>
+        <translation>Nimbulo Pelora nakonfiguroval váš správce.</translation>
     </message>
     <message>
         <source>Internal users</source>
-        <translation>Internal users</translation>
+        <translation>Interní uživatelé</translation>
     </message>
     <message>
         <source>Users of the server can view the file.</source>
-        <translation>Users of the server can view the file.</translation>
+        <translation>Uživatelé serveru mohou soubor zobrazit.</translation>
     </message>
     <message>
         <source>Users of the server can view and edit the file.</source>
-        <translation>Users of the server can view and edit the file.</translation>
+        <translation>Uživatelé serveru mohou soubor zobrazit a upravit.</translation>
     </message>
     <message>
         <source>Specific people</source>
-        <translation>Specific people</translation>
+        <translation>Konkrétní osoby</translation>
     </message>
     <message>
         <source>Only people you invite can access the file.</source>
-        <translation>Only people you invite can access the file.</translation>
+        <translation>K souboru mají přístup jen osoby, které pozvete.</translation>
     </message>
     <message>
         <source>Anyone with the link</source>
-        <translation>Anyone with the link</translation>
+        <translation>Kdokoli s odkazem</translation>
     </message>
     <message>
         <source>Anyone with the link can view the file.</source>
-        <translation>Anyone with the link can view the file.</translation>
+        <translation>Kdokoli s odkazem může soubor zobrazit.</translation>
     </message>
     <message>
         <source>Anyone with the link can view and edit the file.</source>
-        <translation>Anyone with the link can view and edit the file.</translation>
+        <translation>Kdokoli s odkazem může soubor zobrazit a upravit.</translation>
     </message>
     <message>
         <source>Can view</source>
-        <translation>Can view</translation>
+        <translation>Může zobrazit</translation>
     </message>
     <message>
         <source>Can edit</source>
-        <translation>Can edit</translation>
+        <translation>Může upravit</translation>
     </message>
     <message>
         <source>Invite</source>
-        <translation>Invite</translation>
+        <translation>Pozvat</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation>Link</translation>
+        <translation>Odkaz</translation>
     </message>
     <message>
         <source>Link permission:</source>
-        <translation>Link permission:</translation>
+        <translation>Oprávnění odkazu:</translation>
     </message>
     <message>
         <source>Users and groups</source>
-        <translation>Users and groups</translation>
+        <translation>Uživatelé a skupiny</translation>
     </message>
     <message>
         <source>Use a black-and-white icon in the menu bar</source>
-        <translation>Use a black-and-white icon in the menu bar</translation>
+        <translation>Použít černobílou ikonu v řádku nabídek</translation>
     </message>
     <message>
         <source>Show the sync folder in the sidebar of file windows</source>
-        <translation>Show the sync folder in the sidebar of file windows</translation>
+        <translation>Zobrazovat synchronizovanou složku v postranním panelu oken se soubory</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation>Display</translation>
+        <translation>Zobrazení</translation>
     </message>
     <message>
         <source>Unable to connect to the server</source>
-        <translation>Unable to connect to the server</translation>
+        <translation>Nelze se připojit k serveru</translation>
     </message>
     <message>
         <source>Notifications</source>
-        <translation>Notifications</translation>
+        <translation>Oznámení</translation>
     </message>
     <message>
         <source>%1 commented on %2</source>
-        <translation>%1 commented on %2</translation>
+        <translation>%1 přidal(a) komentář k %2</translation>
     </message>
     <message>
         <source>%1 mentioned you in %2</source>
-        <translation>%1 mentioned you in %2</translation>
+        <translation>%1 vás zmínil(a) v %2</translation>
     </message>
     <message>
         <source>%1 requested access to %2</source>
-        <translation>%1 requested access to %2</translation>
+        <translation>%1 žádá o přístup k %2</translation>
     </message>
     <message>
         <source>%1 shared %2 with you</source>
-        <translation>%1 shared %2 with you</translation>
+        <translation>%1 s vámi sdílí %2</translation>
     </message>
     <message>
         <source>Open in Web Portal</source>
-        <translation>Open in Web Portal</translation>
+        <translation>Otevřít ve webovém portálu</translation>
     </message>
     <message>
         <source>Sync</source>
-        <translation>Sync</translation>
+        <translation>Synchronizace</translation>
     </message>
     <message>
         <source>Shared</source>
-        <translation>Shared</translation>
+        <translation>Sdílené</translation>
     </message>
     <message>
         <source>Set Up</source>
-        <translation>Set Up</translation>
+        <translation>Nastavit</translation>
     </message>
     <message>
         <source>%1 is requesting access to this file.</source>
-        <translation>%1 is requesting access to this file.</translation>
+        <translation>%1 žádá o přístup k tomuto souboru.</translation>
     </message>
     <message>
         <source>Comments</source>
-        <translation>Comments</translation>
+        <translation>Komentáře</translation>
     </message>
     <message>
         <source>Mentions</source>
-        <translation>Mentions</translation>
+        <translation>Zmínky</translation>
     </message>
     <message>
         <source>Sync the folders shared with you as well?</source>
-        <translation>Sync the folders shared with you as well?</translation>
+        <translation>Synchronizovat také složky, které s vámi ostatní sdílejí?</translation>
     </message>
     <message>
         <source>One-way upload</source>
-        <translation>One-way upload</translation>
+        <translation>Jednosměrné nahrávání</translation>
     </message>
     <message>
         <source>Do not remove files on the server when they are removed locally</source>
-        <translation>Do not remove files on the server when they are removed locally</translation>
+        <translation>Neodstraňovat soubory na serveru, když jsou odstraněny místně</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has been downloaded.</source>
-        <translation>&quot;%1&quot; has been downloaded.</translation>
+        <translation>Soubor „%1“ byl stažen.</translation>
     </message>
     <message>
         <source>Your files are synced on all devices.</source>
-        <translation>Your files are synced on all devices.</translation>
+        <translation>Vaše soubory jsou synchronizovány na všech zařízeních.</translation>
     </message>
     <message>
         <source>You can also access your files from the web portal.</source>
-        <translation>You can also access your files from the web portal.</translation>
+        <translation>K souborům máte přístup také z webového portálu.</translation>
     </message>
     <message>
         <source>Your sync task is ready.</source>
-        <translation>Your sync task is ready.</translation>
+        <translation>Vaše úloha synchronizace je připravena.</translation>
     </message>
     <message>
         <source>Start Tour</source>
-        <translation>Start Tour</translation>
+        <translation>Zahájit prohlídku</translation>
     </message>
     <message>
         <source>Files and folders that others share with you can also be synced to this computer.</source>
-        <translation>Files and folders that others share with you can also be synced to this computer.</translation>
+        <translation>Soubory a složky, které s vámi sdílejí ostatní, lze také synchronizovat do tohoto počítače.</translation>
     </message>
     <message>
         <source>Maybe later</source>
-        <translation>Maybe later</translation>
+        <translation>Možná později</translation>
     </message>
     <message>
         <source>Sync now</source>
-        <translation>Sync now</translation>
+        <translation>Synchronizovat nyní</translation>
     </message>
     <message>
         <source>Shared with Me</source>
-        <translation>Shared with Me</translation>
+        <translation>Sdíleno se mnou</translation>
     </message>
     <message>
         <source>Create Sync Task</source>
-        <translation>Create Sync Task</translation>
+        <translation>Vytvořit úlohu synchronizace</translation>
     </message>
     <message>
         <source>Choose what you want to sync.</source>
-        <translation>Choose what you want to sync.</translation>
+        <translation>Zvolte, co chcete synchronizovat.</translation>
     </message>
     <message>
         <source>General Sync Task</source>
-        <translation>General Sync Task</translation>
+        <translation>Obecná úloha synchronizace</translation>
     </message>
     <message>
         <source>Files Shared with Me</source>
-        <translation>Files Shared with Me</translation>
+        <translation>Soubory sdílené se mnou</translation>
     </message>
     <message>
         <source>Sync the files and folders others have shared with you.</source>
-        <translation>Sync the files and folders others have shared with you.</translation>
+        <translation>Synchronizujte soubory a složky, které s vámi sdílejí ostatní.</translation>
     </message>
     <message>
         <source>Choose a folder on the NAS and a folder on this computer.</source>
-        <translation>Choose a folder on the NAS and a folder on this computer.</translation>
+        <translation>Zvolte složku na NAS a složku v tomto počítači.</translation>
     </message>
     <message>
         <source>This sync task belongs to a different NAS.</source>
-        <translation>This sync task belongs to a different NAS.</translation>
+        <translation>Tato úloha synchronizace patří k jinému NAS.</translation>
     </message>
     <message>
         <source>The NAS uses a protocol that this version of Nimbulo Pelora does not support.</source>
-        <translation>The NAS uses a protocol that this version of Nimbulo Pelora does not support.</translation>
+        <translation>NAS používá protokol, který tato verze Nimbulo Pelora nepodporuje.</translation>
     </message>
     <message>
         <source>The disk is full. Syncing has been paused.</source>
-        <translation>The disk is full. Syncing has been paused.</translation>
+        <translation>Disk je plný. Synchronizace byla pozastavena.</translation>
     </message>
     <message>
         <source>Download changes from the NAS only</source>
-        <translation>Download changes from the NAS only</translation>
+        <translation>Pouze stahovat změny z NAS</translation>
     </message>
     <message>
         <source>Nimbulo Pelora could not be updated. Please try again later.</source>
-        <translation>Nimbulo Pelora could not be updated. Please try again later.</translation>
+        <translation>Nimbulo Pelora nelze aktualizovat. Zkuste to znovu později.</translation>
     </message>
     <message>
         <source>You are already connected to this NAS.</source>
-        <translation>You are already connected to this NAS.</translation>
+        <translation>K tomuto NAS jste již připojeni.</translation>
     </message>
     <message>
         <source>Changes on network drives may be detected with a delay.</source>
-        <translation>Changes on network drives may be detected with a delay.</translation>
+        <translation>Změny na síťových jednotkách mohou být zjištěny se zpožděním.</translation>
     </message>
     <message>
         <source>The SSL certificate of %1 has changed.</source>
-        <translation>The SSL certificate of %1 has changed.</translation>
+        <translation>Certifikát SSL serveru %1 se změnil.</translation>
     </message>
     <message>
         <source>A secure connection to the server cannot be established.</source>
-        <translation>A secure connection to the server cannot be established.</translation>
+        <translation>Zabezpečené připojení k serveru nelze navázat.</translation>
     </message>
     <message>
         <source>Welcome!</source>
-        <translation>Welcome!</translation>
+        <translation>Vítejte!</translation>
     </message>
     <message>
         <source>Files in your home folder on the NAS are now in %1.</source>
-        <translation>Files in your home folder on the NAS are now in %1.</translation>
+        <translation>Soubory z vaší domovské složky na NAS jsou nyní v %1.</translation>
     </message>
     <message>
         <source>Files in your home folder on the server are now in %1.</source>
-        <translation>Files in your home folder on the server are now in %1.</translation>
+        <translation>Soubory z vaší domovské složky na serveru jsou nyní v %1.</translation>
     </message>
     <message>
         <source>The disk is full</source>
-        <translation>The disk is full</translation>
+        <translation>Disk je plný</translation>
     </message>
     <message>
         <source>The server&apos;s sync service is outdated</source>
-        <translation>The server&apos;s sync service is outdated</translation>
+        <translation>Synchronizační služba na serveru je zastaralá</translation>
     </message>
     <message>
         <source>The shared folder no longer exists.</source>
-        <translation>The shared folder no longer exists.</translation>
+        <translation>Sdílená složka již neexistuje.</translation>
     </message>
     <message>
         <source>Click to update to Nimbulo Pelora %1</source>
-        <translation>Click to update to Nimbulo Pelora %1</translation>
+        <translation>Kliknutím provedete aktualizaci na Nimbulo Pelora %1</translation>
     </message>
     <message>
         <source>This version of Nimbulo Pelora is too old to connect to the server. Please update it.</source>
-        <translation>This version of Nimbulo Pelora is too old to connect to the server. Please update it.</translation>
+        <translation>Tato verze Nimbulo Pelora je příliš stará pro připojení k serveru. Aktualizujte ji.</translation>
     </message>
 </context>
 </TS>
