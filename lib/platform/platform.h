@@ -7,6 +7,9 @@
 #ifndef NIMBULO_PLATFORM_H
 #define NIMBULO_PLATFORM_H
 
+#include <cstdint>
+#include <vector>
+
 #include "ustring.h"
 
 // Resolves path to the absolute path of the same object with every existing
@@ -16,8 +19,8 @@
 // path cannot be resolved (resolved is then untouched).
 int PlatformResolvePath(const ustring& path, bool followLeaf, ustring& resolved);
 
-// Name of the file-system type of the volume holding path, as the design's
-// callers compare it ("nfs", "smbfs", "afpfs", "msdos", ...). 0 on success,
+// Name of the file-system type of the volume holding path, in the spelling
+// callers compare ("nfs", "smbfs", "afpfs", "msdos", ...). 0 on success,
 // -1 with errno set when the volume cannot be examined.
 int PlatformFileSystemTypeName(const ustring& path, ustring& typeName);
 
@@ -34,5 +37,18 @@ ustring PlatformRegistrationTool();
 // Opens the application bundle, which starts its application unless that
 // application already runs. true when the request was accepted.
 bool PlatformOpenBundle(const ustring& bundle);
+
+// Linux only (the macOS build neither has nor needs it): the name-matching
+// step of PlatformResolvePath, kept free of the disk so it can be tested.
+// Given the listing of a folder that may compare names without regard to
+// letter case or Unicode form, returns the spelling the folder stores for
+// name: an exact match; else an entry equal after NFD normalisation and ASCII
+// case folding (the one whose inode is ino when several are); else the one
+// entry whose inode is ino (ino 0: unknown); else name itself.
+struct PlatformDirEntry {
+    ustring name;
+    uint64_t ino;
+};
+ustring PlatformStoredName(const std::vector<PlatformDirEntry>& listing, const ustring& name, uint64_t ino);
 
 #endif
