@@ -1,1 +1,241 @@
-// being written
+// Bundles on Linux. There is no registration database to forget, and the
+// desktop's open service would only show a bundle's folder, so opening a
+// bundle does what it does on macOS: it starts the bundle's application,
+// unless that application already runs.
+#include "platform.h"
+
+#include <cerrno>
+#include <climits>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <pwd.h>
+#include <spawn.h>
+#include <string>
+#include <sys/types.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "config.h"
+
+extern char** environ;
+
+namespace {
+
+ustring& RegistrationTool()
+{
+    static ustring tool;
+    return tool;
+}
+
+std::string HomeFolder()
+{
+    const char* home = getenv("HOME");
+    if (home != nullptr && home[0] != '\0')
+        return home;
+    struct passwd* pw = getpwuid(getuid());
+    return pw != nullptr && pw->pw_dir != nullptr ? pw->pw_dir : "";
+}
+
+bool ReadFile(const std::string& path, std::string& text)
+{
+    FILE* fp = fopen(path.c_str(), "r");
+    if (fp == nullptr)
+        return false;
+    char buf[4096];
+    size_t n;
+    text.clear();
+    while ((n = fread(buf, 1, sizeof(buf), fp)) > 0)
+        text.append(buf, n);
+    fclose(fp);
+    return true;
+}
+
+// The executable a bundle names in Contents/Info.plist:
+//   <key>CFBundleExecutable</key> <string>NAME</string>
+// A missing file or key, or a name that would leave Contents/MacOS, gives
+// the client's usual name.
+std::string BundleExecutableName(const std::string& bundle)
+{
+    const std::string fallback = "nimbulo-pelora-ui";
+    std::string plist;
+    if (!ReadFile(bundle + "/Contents/Info.plist", plist))
+        return fallback;
+    const std::string key = "<key>CFBundleExecutable</key>";
+    size_t pos = plist.find(key);
+    if (pos == std::string::npos)
+        return fallback;
+    pos = plist.find_first_not_of(" \t\r\n", pos + key.size());
+    const std::string open = "<string>";
+    if (pos == std::string::npos || plist.compare(pos, open.size(), open) != 0)
+        return fallback;
+    pos += open.size();
+    size_t end = plist.find("</string>", pos);
+    if (end == std::string::npos)
+        return fallback;
+    std::string name = plist.substr(pos, end - pos);
+    if (name.empty() || name == "." || name == ".." || name.find('/') != std::string::npos)
+        return fallback;
+    return name;
+}
+
+std::string RealPath(const std::string& path)
+{
+    char buf[PATH_MAX];
+    return realpath(path.c_str(), buf) != nullptr ? buf : "";
+}
+
+// Whether the process pid runs the program at executable: directly, or as
+// the script its interpreter was started on (then /proc/<pid>/exe names the
+// interpreter and the script is argv[1], or argv[2] after a shebang option).
+bool RunsExecutable(pid_t pid, const std::string& executable)
+{
+    std::string wanted = RealPath(executable);
+    if (wanted.empty())
+        return false;
+    std::string proc = "/proc/" + std::to_string(pid);
+    char exe[PATH_MAX];
+    ssize_t n = readlink((proc + "/exe").c_str(), exe, sizeof(exe) - 1);
+    if (n > 0) {
+        exe[n] = '\0';
+        if (wanted == exe)
+            return true;
+    }
+    std::string cmdline;
+    if (!ReadFile(proc + "/cmdline", cmdline))
+        return false;
+    size_t start = 0;
+    for (int arg = 0; arg < 3 && start < cmdline.size(); ++arg) {
+        size_t end = cmdline.find('\0', start);
+        if (end == std::string::npos)
+            end = cmdline.size();
+        if (arg > 0 && RealPath(cmdline.substr(start, end - start)) == wanted)
+            return true;
+        start = end + 1;
+    }
+    return false;
+}
+
+// The client of this bundle is running when ~/.Nimbulo/ui.pid names a live
+// process that runs the bundle's executable. Only a positive id is ever
+// probed: 0 and negative values address process groups.
+bool ClientRuns(const std::string& executable)
+{
+    Config config;
+    if (config.read(ustring((HomeFolder() + "/.Nimbulo/ui.pid").c_str())) < 0)
+        return false;
+    std::string text = config.table["pid"].c_str();
+    if (text.empty() || text.size() > 10 || text.find_first_not_of("0123456789") != std::string::npos)
+        return false;
+    long pid = strtol(text.c_str(), nullptr, 10);
+    if (pid <= 0 || pid > INT_MAX)
+        return false;
+    if (kill(static_cast<pid_t>(pid), 0) != 0 && errno != EPERM)
+        return false;
+    return RunsExecutable(static_cast<pid_t>(pid), executable);
+}
+
+// Starts executable in its own session with standard input from /dev/null,
+// as a grandchild so that it is nobody's child here and leaves no zombie.
+// A close-on-exec pipe carries the errno of a failed exec back; end of file
+// on it means the exec succeeded.
+bool StartDetached(const std::string& executable)
+{
+    int fds[2];
+    if (pipe2(fds, O_CLOEXEC) != 0)
+        return false;
+
+    // Everything the children use is prepared before fork: after it only
+    // async-signal-safe calls are allowed, the caller having threads.
+    char* const argv[] = {const_cast<char*>(executable.c_str()), nullptr};
+
+    pid_t child = fork();
+    if (child < 0) {
+        close(fds[0]);
+        close(fds[1]);
+        return false;
+    }
+    if (child == 0) {
+        close(fds[0]);
+        setsid();
+        pid_t grandchild = fork();
+        if (grandchild != 0) {
+            if (grandchild < 0) {
+                int err = errno;
+                (void)!write(fds[1], &err, sizeof(err));
+            }
+            _exit(0);
+        }
+        int devnull = open("/dev/null", O_RDONLY);
+        if (devnull >= 0) {
+            dup2(devnull, STDIN_FILENO);
+            if (devnull != STDIN_FILENO)
+                close(devnull);
+        }
+#ifdef CLOSE_RANGE_CLOEXEC
+        // The launcher's own descriptors (its log file among them) are not
+        // the client's business.
+        close_range(3, ~0U, CLOSE_RANGE_CLOEXEC);
+#endif
+        sigset_t none;
+        sigemptyset(&none);
+        sigprocmask(SIG_SETMASK, &none, nullptr);
+        execve(executable.c_str(), argv, environ);
+        int err = errno;
+        (void)!write(fds[1], &err, sizeof(err));
+        _exit(127);
+    }
+
+    close(fds[1]);
+    int status = 0;
+    while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+    }
+    int err = 0;
+    ssize_t n;
+    while ((n = read(fds[0], &err, sizeof(err))) < 0 && errno == EINTR) {
+    }
+    close(fds[0]);
+    return n == 0;
+}
+
+}  // namespace
+
+void PlatformSetRegistrationTool(const ustring& tool)
+{
+    RegistrationTool() = tool;
+}
+
+ustring PlatformRegistrationTool()
+{
+    return RegistrationTool();
+}
+
+int PlatformForgetBundle(const ustring& bundle)
+{
+    const ustring tool = RegistrationTool();
+    if (tool.empty())
+        return 0;
+
+    char* const argv[] = {const_cast<char*>(tool.c_str()), const_cast<char*>("-u"),
+                          const_cast<char*>(bundle.c_str()), nullptr};
+    pid_t pid = 0;
+    if (posix_spawn(&pid, tool.c_str(), nullptr, nullptr, argv, environ) != 0)
+        return -2;
+    int status = 0;
+    pid_t done;
+    while ((done = waitpid(pid, &status, 0)) < 0 && errno == EINTR) {
+    }
+    if (done < 0 || !WIFEXITED(status))
+        return -1;
+    return WEXITSTATUS(status);
+}
+
+bool PlatformOpenBundle(const ustring& bundle)
+{
+    const std::string root = bundle.c_str();
+    const std::string executable = root + "/Contents/MacOS/" + BundleExecutableName(root);
+    if (ClientRuns(executable))
+        return true;
+    return StartDetached(executable);
+}

@@ -1,1 +1,211 @@
-// being written
+#include "mac-service.h"
+
+#include <cerrno>
+#include <climits>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <limits>
+#include <sys/types.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QString>
+
+#include "config.h"
+#include "file-op.h"
+#include "log.h"
+#include "platform.h"
+
+namespace {
+
+const char* const kComponent = "service_debug";
+
+// The largest process id the system hands out. Linux allocates ids below
+// /proc/sys/kernel/pid_max; where that file cannot be read, only pid_t's
+// own range bounds the value.
+long MaxProcessId()
+{
+    long limit = std::numeric_limits<pid_t>::max();
+    FILE* fp = fopen("/proc/sys/kernel/pid_max", "r");
+    if (fp == nullptr)
+        return limit;
+    long pidMax = 0;
+    if (fscanf(fp, "%ld", &pidMax) == 1 && pidMax > 1 && pidMax - 1 < limit)
+        limit = pidMax - 1;
+    fclose(fp);
+    return limit;
+}
+
+// A process id as the client writes it: decimal digits only, greater than 0
+// and no larger than the system allows.
+//
+// Everything else is refused before it can reach kill(). There a process id
+// of 0 addresses the caller's own process group, and -1 every process the
+// caller may signal: as root, kill(-1, SIGKILL) ends every process on the
+// machine. A text such as "-1", an empty value or a number that would wrap
+// into a negative pid_t must therefore never be converted and used.
+bool ParseProcessId(const ustring& text, pid_t& pid)
+{
+    if (text.empty())
+        return false;
+    const long limit = MaxProcessId();
+    long value = 0;
+    for (size_t i = 0; i < text.length(); ++i) {
+        char c = text[i];
+        if (c < '0' || c > '9')
+            return false;
+        value = value * 10 + (c - '0');
+        if (value > limit)
+            return false;
+    }
+    if (value <= 0)
+        return false;
+    pid = static_cast<pid_t>(value);
+    return true;
+}
+
+void SleepOneSecond()
+{
+    struct timespec left = {1, 0};
+    while (nanosleep(&left, &left) != 0 && errno == EINTR) {
+    }
+}
+
+// The standard atoi rule, kept inside the int range instead of overflowing.
+int BuildNumber(const ustring& text)
+{
+    if (text.empty())
+        return 0;
+    long value = strtol(text.c_str(), nullptr, 10);
+    if (value > INT_MAX)
+        return INT_MAX;
+    if (value < INT_MIN)
+        return INT_MIN;
+    return static_cast<int>(value);
+}
+
+}  // namespace
+
+MacService::MacService()
+{
+    timeout = 10000;
+    userAppPath = GetUserNimbuloAppInstallPath();
+}
+
+MacService* MacService::GetInstace()
+{
+    static MacService instance;
+    return &instance;
+}
+
+void MacService::LoadSourceVerInfo()
+{
+    Service::LoadSourceVersion();
+}
+
+void MacService::LoadTargetVerInfo()
+{
+    Service::LoadTargetVersion();
+}
+
+void MacService::PreUpgrade()
+{
+    Service::LoadTargetVersion();
+    Service::LoadSourceVersion();
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] mac/mac-service(%d): Source version: ('%s', '%s')\n",
+                   __LINE__, sourceBuildVersion.c_str(), sourceIconOverlayVersion.c_str());
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] mac/mac-service(%d): Target version: ('%s', '%s')\n",
+                   __LINE__, targetBuildVersion.c_str(), targetIconOverlayVersion.c_str());
+}
+
+bool MacService::IsNeedUpgrade()
+{
+    int source = BuildNumber(sourceBuildVersion);
+    int target = BuildNumber(targetBuildVersion);
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
+                   "[DEBUG] mac/mac-service(%d): source version = %d, target version = %d\n", __LINE__, source,
+                   target);
+    return !PerUserBinPathExist() || target > source;
+}
+
+int MacService::HandlePackageUpgrade()
+{
+    if (PerUserBinPathExist()) {
+        Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] mac/mac-service(%d): local appdata exist\n",
+                       __LINE__);
+        StopService();
+    }
+    return PrepareUserEnv();
+}
+
+void MacService::StopService()
+{
+    ustring pidFile = GetUserNimbuloInstallPath() + "/ui.pid";
+    if (!IsFileExist(pidFile, false)) {
+        Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
+                       "[DEBUG] mac/mac-service(%d): pid file '%s' does not exist, no need to terminate\n", __LINE__,
+                       pidFile.c_str());
+        return;
+    }
+
+    Config config;
+    if (config.read(pidFile) < 0) {
+        Logger::LogMsg(Logger::LEVEL_NOTE, kComponent,
+                       "[NOTE] mac/mac-service(%d): Failed to read pid file '%s', not exist ?\n", __LINE__,
+                       pidFile.c_str());
+        return;
+    }
+
+    ustring value = config.table["pid"];
+    pid_t pid = 0;
+    if (!ParseProcessId(value, pid)) {
+        Logger::LogMsg(Logger::LEVEL_NOTE, kComponent,
+                       "[NOTE] mac/mac-service(%d): pid file '%s' holds no valid pid '%s', no need to terminate\n",
+                       __LINE__, pidFile.c_str(), value.c_str());
+        return;
+    }
+
+    if (kill(pid, SIGTERM) != 0) {
+        int err = errno;
+        if (err == ESRCH)
+            return;
+        const char* text = strerror(err);
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] mac/mac-service(%d): kill: %s (%d)\n", __LINE__,
+                       text != nullptr ? text : "", err);
+    }
+
+    // Five probes, each followed by a one-second pause while the process is
+    // still there (or cannot be probed), then the forced end.
+    for (int probe = 0; probe < 5; ++probe) {
+        if (kill(pid, 0) != 0 && errno == ESRCH)
+            return;
+        SleepOneSecond();
+    }
+    kill(pid, SIGKILL);
+}
+
+bool MacService::PerUserBinPathExist()
+{
+    ustring path = userAppPath + "/" + "Contents/MacOS" + "/" + "nimbulo-pelora-ui";
+    return access(path.c_str(), F_OK) == 0;
+}
+
+int MacService::LaunchPerUserBin()
+{
+    ustring bundle = ustring(QDir::homePath().toUtf8().constData()) + "/.Nimbulo/Nimbulo.app";
+    if (PlatformForgetBundle(bundle) != 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] mac/mac-service(%d): Cannot unregister bundle, %s",
+                       __LINE__, bundle.c_str());
+    }
+    return PlatformOpenBundle(bundle) ? 0 : -1;
+}
+
+void MacService::PostUpgrade()
+{
+    if (LaunchPerUserBin() < 0)
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] mac/mac-service(%d): Failed to launch Nimbulo UI\n",
+                       __LINE__);
+}

@@ -1,0 +1,260 @@
+// Helper program of the upgrade-service tests.
+//
+//   service_helper layout
+//       Prints the installation paths as key=value lines. The tests copy it
+//       into a bundle's Contents/MacOS, since the bundle root is derived
+//       from the running executable's folder.
+//
+//   service_helper ns <case> <dir>
+//       Runs one StopService case. Must be process 1 of a fresh PID
+//       namespace (unshare --pid --fork --mount-proc): it refuses otherwise,
+//       because the cases hand kill() process ids such as 0 and -1 that,
+//       should they ever get through, address process groups or every
+//       process the caller may signal. As process 1 it reaps every process
+//       of the namespace and records how each ended in <dir>/reaped; the
+//       case itself runs in a child and writes <dir>/result.
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <string>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+
+#include "log.h"
+#include "mac-service.h"
+
+namespace {
+
+std::string g_dir;
+
+void Append(const std::string& path, const std::string& text)
+{
+    FILE* fp = fopen(path.c_str(), "a");
+    if (fp != nullptr) {
+        fputs(text.c_str(), fp);
+        fclose(fp);
+    }
+}
+
+void SleepMs(long ms)
+{
+    struct timespec left = {ms / 1000, (ms % 1000) * 1000000L};
+    while (nanosleep(&left, &left) != 0 && errno == EINTR) {
+    }
+}
+
+int Layout(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    MacService service;
+    PackageInfo info;
+    printf("root=%s\n", Service::GetRootNimbuloInstallPath().c_str());
+    printf("resources=%s\n", Service::GetRootNimbuloResourceInstallPath().c_str());
+    printf("home=%s\n", Service::GetUserInstallPath().c_str());
+    printf("user=%s\n", Service::GetUserNimbuloInstallPath().c_str());
+    printf("app=%s\n", Service::GetUserNimbuloAppInstallPath().c_str());
+    printf("data=%s\n", Service::GetUserNimbuloDataInstallPath().c_str());
+    printf("userAppPath=%s\n", service.userAppPath.c_str());
+    printf("images=%s\n", info.imagesPath.c_str());
+    printf("logroot=%s\n", info.logRootPath.c_str());
+    printf("debugflag=%s\n", info.debugFlagPath.c_str());
+    printf("package=%s\n", info.packagePath.c_str());
+    printf("conf=%s\n", info.confPath.c_str());
+    return 0;
+}
+
+// --- client processes -------------------------------------------------------
+//
+// A client is started as a grandchild: its parent exits at once, so it is
+// re-parented to process 1, which reaps it the moment it ends. A process of
+// our own would linger as a zombie, which kill(pid, 0) still finds.
+
+volatile sig_atomic_t g_terminated = 0;
+
+void OnTerm(int)
+{
+    g_terminated = 1;
+}
+
+enum ClientKind { kExitsAtOnce, kExitsLater, kIgnoresTerm, kSentinel };
+
+void ClientMain(ClientKind kind, int readyFd)
+{
+    std::string record = g_dir + "/client";
+    if (kind == kExitsLater || kind == kIgnoresTerm) {
+        struct sigaction sa;
+        memset(&sa, 0, sizeof(sa));
+        sa.sa_handler = OnTerm;
+        sigaction(SIGTERM, &sa, nullptr);
+    }
+    pid_t self = getpid();
+    (void)!write(readyFd, &self, sizeof(self));
+    close(readyFd);
+    if (kind == kExitsAtOnce)
+        _exit(0);
+    for (;;) {
+        if (g_terminated) {
+            g_terminated = 0;
+            Append(record, "term\n");
+            if (kind == kExitsLater) {
+                SleepMs(1500);
+                Append(record, "exit\n");
+                _exit(0);
+            }
+        }
+        pause();
+    }
+}
+
+// The client's process id, once it is ready to receive signals; -1 on failure.
+pid_t StartClient(ClientKind kind)
+{
+    int fds[2];
+    if (pipe(fds) != 0)
+        return -1;
+    pid_t child = fork();
+    if (child == 0) {
+        close(fds[0]);
+        if (fork() == 0)
+            ClientMain(kind, fds[1]);
+        _exit(0);
+    }
+    close(fds[1]);
+    waitpid(child, nullptr, 0);
+    pid_t pid = -1;
+    if (read(fds[0], &pid, sizeof(pid)) != sizeof(pid))
+        pid = -1;
+    close(fds[0]);
+    return pid;
+}
+
+bool Gone(pid_t pid)
+{
+    return kill(pid, 0) != 0 && errno == ESRCH;
+}
+
+long long NowMs()
+{
+    return std::chrono::duration_cast<std::chrono::milliseconds>(
+               std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+}
+
+// --- one case, in the child of process 1 -----------------------------------
+
+int RunCase(const std::string& name)
+{
+    std::string home = g_dir + "/home";
+    setenv("HOME", home.c_str(), 1);
+    mkdir(home.c_str(), 0755);
+    mkdir((home + "/.Nimbulo").c_str(), 0755);
+    std::string pidFile = home + "/.Nimbulo/ui.pid";
+    std::string result = g_dir + "/result";
+
+    Append(g_dir + "/debug", "service_debug=7\n");
+    Logger::Initialize(Logger::TYPE_FILE, (g_dir + "/service.log").c_str(), (g_dir + "/debug").c_str(), 50);
+
+    pid_t client = -1;
+    if (name == "nofile") {
+    } else if (name == "stale") {
+        client = StartClient(kExitsAtOnce);
+        for (int i = 0; i < 200 && !Gone(client); ++i)
+            SleepMs(10);
+        if (!Gone(client))
+            return 2;
+        Append(pidFile, "pid=" + std::to_string(client) + "\n");
+    } else if (name == "slow" || name == "ignore") {
+        client = StartClient(name == "slow" ? kExitsLater : kIgnoresTerm);
+        if (client <= 1)
+            return 2;
+        Append(pidFile, "pid=" + std::to_string(client) + "\n");
+    } else if (name.compare(0, 5, "file:") == 0) {
+        // The pid file's whole content, given by the test; a sentinel in
+        // the same process group and namespace shows whether anything was
+        // signalled.
+        client = StartClient(kSentinel);
+        if (client <= 1)
+            return 2;
+        Append(pidFile, name.substr(5));
+    } else {
+        return 2;
+    }
+
+    MacService service;
+    long long start = NowMs();
+    service.StopService();
+    long long elapsed = NowMs() - start;
+    Append(result, "elapsed_ms=" + std::to_string(elapsed) + "\n");
+
+    if (client > 1) {
+        long long waited = 0;
+        if (name == "ignore" || name == "slow") {
+            // Process 1 reaps the killed client within moments.
+            while (!Gone(client) && waited < 1000) {
+                SleepMs(10);
+                waited += 10;
+            }
+        } else {
+            SleepMs(200);
+        }
+        Append(result, "client=" + std::to_string(client) + "\n");
+        Append(result, std::string("client_gone=") + (Gone(client) ? "1" : "0") + "\n");
+        Append(result, "gone_after_ms=" + std::to_string(waited) + "\n");
+        // A client still alive ends with the namespace when process 1 exits.
+    }
+    return 0;
+}
+
+int Namespace(const std::string& name)
+{
+    if (getpid() != 1) {
+        fprintf(stderr, "service_helper: not process 1 of a fresh PID namespace, refusing to run\n");
+        return 3;
+    }
+    // A session and process group of our own: kill(0, ...) from the case
+    // must not be able to reach the process group of whoever started us.
+    if (setsid() < 0) {
+        fprintf(stderr, "service_helper: setsid failed, refusing to run\n");
+        return 3;
+    }
+    std::string reaped = g_dir + "/reaped";
+    pid_t runner = fork();
+    if (runner == 0)
+        _exit(RunCase(name));
+    for (;;) {
+        int status = 0;
+        pid_t pid = waitpid(-1, &status, 0);
+        if (pid < 0) {
+            if (errno == EINTR)
+                continue;
+            return 4;
+        }
+        if (pid == runner)
+            return WIFEXITED(status) ? WEXITSTATUS(status) : 5;
+        if (WIFSIGNALED(status))
+            Append(reaped, std::to_string(pid) + " signal " + std::to_string(WTERMSIG(status)) + "\n");
+        else
+            Append(reaped, std::to_string(pid) + " exit " + std::to_string(WEXITSTATUS(status)) + "\n");
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc >= 2 && strcmp(argv[1], "layout") == 0)
+        return Layout(argc, argv);
+    if (argc == 4 && strcmp(argv[1], "ns") == 0) {
+        g_dir = argv[3];
+        return Namespace(argv[2]);
+    }
+    fprintf(stderr, "usage: service_helper layout | ns <case> <dir>\n");
+    return 2;
+}
