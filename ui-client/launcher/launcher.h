@@ -75,6 +75,9 @@ private slots:
     void ShowMsgBox();
 
 private:
+    // Tests reach the worker's signals and the dialog through this.
+    friend class LauncherTestPeer;
+
     Worker* worker;
     ProcessingProgressDialog* dialog;
 };
