@@ -80,8 +80,11 @@ int Config::read(const ustring& path)
             return -1;
         }
     }
+    // A path that opens but cannot be read (a folder) is as unreadable as a
+    // missing one.
+    const bool failed = ferror(fp) != 0;
     fclose(fp);
-    return 0;
+    return failed ? -1 : 0;
 }
 
 int Config::parse(char* line, int /*length*/, ustring& key, ustring& value)

@@ -158,6 +158,8 @@ TEST_F(ConfigFile, MissingEmptyAndUnopenable)
     config.table[ustring("kept")] = ustring("1");
     EXPECT_EQ(-1, config.read(ustring("")));
     EXPECT_EQ(-1, config.read(ustring((dir / "absent").string())));
+    // A folder opens for reading but every read fails.
+    EXPECT_EQ(-1, config.read(ustring(dir.string())));
     // An empty file is a successful read that changes nothing.
     EXPECT_EQ(0, config.read(Write("empty", "")));
     EXPECT_EQ("1", Get(config, "kept"));
