@@ -8,37 +8,27 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <cctype>
 #include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
 
 namespace logtest {
 
-// The line number the tests pass as the first argument, so that line
-// lengths are known in advance.
+// The line number every test passes, so that line lengths are known in advance.
 const int kLine = 123;
 // "Nov 16 20:33:07 " in the C locale the tests run in.
 const size_t kStampLength = 16;
 
 inline const char* Format(Logger::Level level)
 {
-    switch (level) {
-    case Logger::LEVEL_ERROR:
-        return "[ERROR] logger_test(%d): %s\n";
-    case Logger::LEVEL_WARNING:
-        return "[WARNING] logger_test(%d): %s\n";
-    case Logger::LEVEL_NOTE:
-        return "[NOTE] logger_test(%d): %s\n";
-    case Logger::LEVEL_INFO:
-        return "[INFO] logger_test(%d): %s\n";
-    default:
-        return "[DEBUG] logger_test(%d): %s\n";
-    }
+    static const char* const kFormats[] = {"[ERROR] logger_test(%d): %s\n", "[WARNING] logger_test(%d): %s\n",
+                                           "[NOTE] logger_test(%d): %s\n", "[INFO] logger_test(%d): %s\n",
+                                           "[DEBUG] logger_test(%d): %s\n"};
+    return kFormats[level - Logger::LEVEL_ERROR];
 }
 
 inline void Log(Logger::Level level, const char* component, const std::string& text)
@@ -49,55 +39,29 @@ inline void Log(Logger::Level level, const char* component, const std::string& t
 // The caller's text as the logger must write it, without the stamp.
 inline std::string Text(Logger::Level level, const std::string& text)
 {
-    int n = snprintf(nullptr, 0, Format(level), kLine, text.c_str());
-    std::string buf(static_cast<size_t>(n) + 1, '\0');
-    snprintf(&buf[0], buf.size(), Format(level), kLine, text.c_str());
-    buf.resize(static_cast<size_t>(n));
-    return buf;
-}
-
-inline bool HasStamp(const std::string& line)
-{
-    static const char* const kMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                          "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
-    if (line.size() < kStampLength) {
-        return false;
-    }
-    bool month = false;
-    for (const char* m : kMonths) {
-        month = month || line.compare(0, 3, m) == 0;
-    }
-    const char* shape = "mmm dd dd:dd:dd ";
-    for (size_t i = 3; i < kStampLength; ++i) {
-        bool ok = shape[i] == 'd' ? isdigit(static_cast<unsigned char>(line[i])) != 0 : line[i] == shape[i];
-        if (!ok) {
-            return false;
-        }
-    }
-    return month;
+    std::vector<char> buf(text.size() + 64);
+    snprintf(buf.data(), buf.size(), Format(level), kLine, text.c_str());
+    return buf.data();
 }
 
 inline std::string ReadFile(const std::filesystem::path& path)
 {
-    std::ifstream in(path, std::ios::binary);
     std::ostringstream s;
-    s << in.rdbuf();
+    s << std::ifstream(path, std::ios::binary).rdbuf();
     return s.str();
 }
 
-// Splits written output into lines, checks that each one carries a time
-// stamp and returns the texts after it (line feeds kept). A line without a
-// stamp comes back whole, prefixed with "NO STAMP: ", so comparisons fail.
+// Splits output into lines (line feeds kept) and strips each line's time stamp; a line without one comes
+// back prefixed with "NO STAMP: ", so comparisons fail.
 inline std::vector<std::string> Unstamped(const std::string& content)
 {
+    static const std::regex kStamp("(Jan|Feb|Mar|Apr|May|Jun|Jul|Aug|Sep|Oct|Nov|Dec) \\d\\d \\d\\d:\\d\\d:\\d\\d ");
     std::vector<std::string> lines;
-    size_t start = 0;
-    while (start < content.size()) {
-        size_t end = content.find('\n', start);
-        end = end == std::string::npos ? content.size() : end + 1;
+    for (size_t start = 0, end; start < content.size(); start = end) {
+        end = std::min(content.find('\n', start), content.size() - 1) + 1;
         std::string line = content.substr(start, end - start);
-        lines.push_back(HasStamp(line) ? line.substr(kStampLength) : "NO STAMP: " + line);
-        start = end;
+        bool stamped = std::regex_match(line.substr(0, kStampLength), kStamp);
+        lines.push_back(stamped ? line.substr(kStampLength) : "NO STAMP: " + line);
     }
     return lines;
 }
@@ -105,34 +69,25 @@ inline std::vector<std::string> Unstamped(const std::string& content)
 // Points a file descriptor (1 or 2) at a file until Finish().
 class CaptureFd {
 public:
-    CaptureFd(int fd, const std::filesystem::path& file)
-        : fd_(fd), file_(file)
+    CaptureFd(int fd, const std::filesystem::path& file) : fd_(fd), saved_((fflush(nullptr), dup(fd))), file_(file)
     {
-        fflush(nullptr);
-        saved_ = dup(fd);
         int target = open(file.c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0600);
         dup2(target, fd);
         close(target);
     }
-    ~CaptureFd() { Restore(); }
+    ~CaptureFd() { Finish(); }
     std::string Finish()
     {
-        Restore();
+        if (saved_ >= 0) {
+            fflush(nullptr);
+            dup2(saved_, fd_);
+            close(saved_);
+            saved_ = -1;
+        }
         return ReadFile(file_);
     }
 
 private:
-    void Restore()
-    {
-        if (saved_ < 0) {
-            return;
-        }
-        fflush(nullptr);
-        dup2(saved_, fd_);
-        close(saved_);
-        saved_ = -1;
-    }
-
     int fd_;
     int saved_;
     std::filesystem::path file_;
@@ -141,10 +96,7 @@ private:
 inline std::filesystem::path MakeTempDir(const char* prefix)
 {
     std::string tmpl = (std::filesystem::temp_directory_path() / prefix).string() + ".XXXXXX";
-    if (mkdtemp(&tmpl[0]) == nullptr) {
-        return std::filesystem::path();
-    }
-    return tmpl;
+    return mkdtemp(&tmpl[0]) == nullptr ? std::filesystem::path() : std::filesystem::path(tmpl);
 }
 
 }  // namespace logtest

@@ -4,11 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include <sys/time.h>
-
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <set>
@@ -22,6 +21,12 @@ namespace {
 
 const std::string kAlphabet = "0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_";
 
+void ExpectName(const ustring& name)
+{
+    ASSERT_EQ(8u, name.length()) << name.c_str();
+    EXPECT_EQ(std::string::npos, std::string(name.c_str()).find_first_not_of(kAlphabet)) << name.c_str();
+}
+
 class TmpNameGenTest : public ::testing::Test {
 protected:
     void SetUp() override
@@ -30,47 +35,25 @@ protected:
         ASSERT_NE(nullptr, mkdtemp(&tmpl[0]));
         dir = tmpl;
     }
-    void TearDown() override
+    void TearDown() override { fs::remove_all(dir); }
+    std::string Source(const std::string& name, const std::string& bytes)
     {
-        if (!HasFailure()) {
-            fs::remove_all(dir);
-        }
-    }
-    std::string WriteSource(const std::string& name, const std::string& bytes)
-    {
-        fs::path p = dir / name;
-        std::ofstream(p, std::ios::binary) << bytes;
-        return p.string();
-    }
-    static void ExpectName(const ustring& name)
-    {
-        ASSERT_EQ(8u, name.length()) << name.c_str();
-        for (size_t i = 0; i < name.length(); ++i) {
-            EXPECT_NE(std::string::npos, kAlphabet.find(name[i])) << name.c_str();
-        }
+        std::ofstream(dir / name, std::ios::binary) << bytes;
+        return (dir / name).string();
     }
 
     fs::path dir;
 };
 
-// With K[0] = 0 and K[i] = 1 - i, every swap of the key schedule is a swap
-// of a byte with itself, so the permutation stays the identity: a random
-// source holding this key puts the generator at the known starting point.
-std::string IdentityKey()
-{
-    std::string key(256, '\0');
-    for (int i = 1; i < 256; ++i) {
-        key[i] = static_cast<char>((1 - i) & 0xff);
-    }
-    return key;
-}
-
+// With K[0] = 0 and K[i] = 1 - i every swap of the key schedule swaps a byte with itself, so the permutation
+// stays the identity. The second name guards against restarting the permutation, or carrying i and j over,
+// between draws.
 TEST_F(TmpNameGenTest, IdentityPermutationGivesKnownNames)
 {
-    std::string source = WriteSource("identity", IdentityKey());
-    TmpNameGen gen(source.c_str());
-    // The second name guards against restarting the permutation, or
-    // carrying i and j over, between draws.
+    std::string key(256, '\0');
+    for (int i = 1; i < 256; ++i)
+        key[i] = static_cast<char>((1 - i) & 0xff);
+    TmpNameGen gen(Source("identity", key).c_str());
     EXPECT_STREQ("0wk73gQn", gen.getTmpName().c_str());
     EXPECT_STREQ("0MM53O8V", gen.getTmpName().c_str());
 }
@@ -87,22 +70,18 @@ TEST_F(TmpNameGenTest, NamesAreEightAlphabetCharactersAndVary)
         seen.insert(name.c_str());
         used.insert(name.c_str(), name.c_str() + name.length());
     }
-    // 48 random bits a name: a repeat in 2000 draws means a broken stream.
-    EXPECT_EQ(2000u, seen.size());
-    // All 64 characters, including the last two, are reachable.
-    EXPECT_EQ(64u, used.size());
+    EXPECT_EQ(2000u, seen.size()) << "48 random bits a name: a repeat in 2000 draws means a broken stream";
+    EXPECT_EQ(64u, used.size()) << "all 64 characters, the last two included, are reachable";
 }
 
 TEST_F(TmpNameGenTest, ConcurrentDrawsNeverRepeat)
 {
     std::vector<std::string> names[2];
     auto draw = [](std::vector<std::string>* into) {
-        for (int n = 0; n < 5000; ++n) {
+        for (int n = 0; n < 5000; ++n)
             into->push_back(TmpNameGen::getInstance().getTmpName().c_str());
-        }
     };
-    std::thread a(draw, &names[0]);
-    std::thread b(draw, &names[1]);
+    std::thread a(draw, &names[0]), b(draw, &names[1]);
     a.join();
     b.join();
     std::set<std::string> all(names[0].begin(), names[0].end());
@@ -110,82 +89,52 @@ TEST_F(TmpNameGenTest, ConcurrentDrawsNeverRepeat)
     EXPECT_EQ(10000u, all.size());
 }
 
-// Checks the "%lu-%lu" key written over a buffer that held `before`, and
-// that nothing after its terminator changed.
-void ExpectTimeKey(const unsigned char* key, const unsigned char* before, unsigned long t0, unsigned long t1)
+// A full read is the key as it is; a missing device or a short read leaves "%lu-%lu" (seconds and microseconds)
+// written over the start of the buffer and nothing after its terminator changed.
+TEST_F(TmpNameGenTest, KeyFromTheDeviceOrTheTimeOfDay)
 {
-    const char* text = reinterpret_cast<const char*>(key);
-    unsigned long sec = 0;
-    unsigned long usec = 0;
-    int consumed = 0;
-    ASSERT_EQ(2, sscanf(text, "%lu-%lu%n", &sec, &usec, &consumed)) << text;
-    ASSERT_EQ(strlen(text), static_cast<size_t>(consumed)) << text;
-    EXPECT_GE(sec, t0);
-    EXPECT_LE(sec, t1);
-    EXPECT_LT(usec, 1000000ul);
-    EXPECT_EQ(0, memcmp(key + consumed + 1, before + consumed + 1, 256 - consumed - 1));
-}
-
-TEST_F(TmpNameGenTest, FallsBackToTimeOfDayWithoutRandomDevice)
-{
-    struct timeval start;
-    gettimeofday(&start, nullptr);
-    TmpNameGen gen((dir / "no-such-device").c_str());
-    unsigned char before[256];
-    memset(before, 0xa5, sizeof(before));
-    unsigned char key[256];
-    memcpy(key, before, sizeof(key));
-    gen.get_key(key, sizeof(key));
-    struct timeval end;
-    gettimeofday(&end, nullptr);
-    ExpectTimeKey(key, before, start.tv_sec, end.tv_sec);
-
-    // Construction still succeeds and names still come.
-    ExpectName(gen.getTmpName());
-    ExpectName(gen.getTmpPath(ustring("/tmp")).substr(5));
-}
-
-TEST_F(TmpNameGenTest, ShortReadFallsBackAndKeepsWhatWasRead)
-{
-    std::string source = WriteSource("short", std::string(100, 'Z'));
-    TmpNameGen gen(source.c_str());
-    unsigned char key[256];
-    memset(key, 0, sizeof(key));
-    unsigned char before[256];
-    memset(before, 0, sizeof(before));
-    memset(before, 'Z', 100);  // what the short read leaves behind the time
-    time_t t0 = time(nullptr);
-    gen.get_key(key, sizeof(key));
-    ExpectTimeKey(key, before, t0, time(nullptr));
-}
-
-TEST_F(TmpNameGenTest, FullDeviceReadIsTakenAsIs)
-{
-    std::string bytes(300, '\0');
-    for (size_t i = 0; i < bytes.size(); ++i) {
-        bytes[i] = static_cast<char>(i * 7 + 3);
+    std::string full(300, '\0');
+    for (size_t i = 0; i < full.size(); ++i)
+        full[i] = static_cast<char>(i * 7 + 3);
+    const struct { const char* tag; std::string source; std::string after; } rows[] = {
+        {"full read", Source("full", full), full.substr(0, 256)},
+        {"no device", (dir / "no-such-device").string(), std::string(256, '\xa5')},
+        {"short read keeps what was read", Source("short", std::string(100, 'Z')),
+         std::string(100, 'Z') + std::string(156, '\xa5')},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.tag);
+        TmpNameGen gen(row.source.c_str());
+        unsigned char key[256];
+        memset(key, 0xa5, sizeof(key));
+        const unsigned long t0 = time(nullptr);
+        gen.get_key(key, sizeof(key));
+        const unsigned long t1 = time(nullptr);
+        const std::string got(reinterpret_cast<const char*>(key), sizeof(key));
+        if (std::string(row.tag) == "full read") {
+            EXPECT_EQ(row.after, got);
+            continue;
+        }
+        unsigned long sec = 0, usec = 0;
+        int consumed = 0;
+        ASSERT_EQ(2, sscanf(got.c_str(), "%lu-%lu%n", &sec, &usec, &consumed)) << got.c_str();
+        ASSERT_EQ(strlen(got.c_str()), static_cast<size_t>(consumed)) << got.c_str();
+        EXPECT_GE(sec, t0);
+        EXPECT_LE(sec, t1);
+        EXPECT_LT(usec, 1000000ul);
+        EXPECT_EQ(row.after.substr(consumed + 1), got.substr(consumed + 1));
+        ExpectName(gen.getTmpName());  // names still come
     }
-    std::string source = WriteSource("full", bytes);
-    TmpNameGen gen(source.c_str());
-    unsigned char key[256];
-    gen.get_key(key, sizeof(key));
-    EXPECT_EQ(0, memcmp(bytes.data(), key, sizeof(key)));
 }
 
 TEST_F(TmpNameGenTest, PathJoinsWithOneSlashAndKeepsTrailingOnes)
 {
-    TmpNameGen& gen = TmpNameGen::getInstance();
-    struct Row {
-        const char* dir;
-        const char* prefix;
-    };
-    const Row rows[] = {{"/tmp", "/tmp/"}, {"/tmp/", "/tmp//"}, {"", "/"}};
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.dir);
-        ustring path = gen.getTmpPath(ustring(row.dir));
-        size_t prefix = strlen(row.prefix);
+    for (const auto& row : {std::make_pair("/tmp", "/tmp/"), {"/tmp/", "/tmp//"}, {"", "/"}}) {
+        SCOPED_TRACE(row.first);
+        ustring path = TmpNameGen::getInstance().getTmpPath(ustring(row.first));
+        size_t prefix = strlen(row.second);
         ASSERT_EQ(prefix + 8, path.length());
-        EXPECT_EQ(0, strncmp(row.prefix, path.c_str(), prefix));
+        EXPECT_EQ(0, strncmp(row.second, path.c_str(), prefix));
         ExpectName(path.substr(prefix));
     }
 }

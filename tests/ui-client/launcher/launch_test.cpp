@@ -1,13 +1,10 @@
 // Starting the per-user client: real bundles whose executable is a shell
 // script, started as real detached processes.
-#include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <chrono>
 #include <csignal>
-#include <string>
-#include <sys/stat.h>
 #include <thread>
-#include <unistd.h>
 
 #include "log.h"
 #include "mac-service.h"
@@ -18,9 +15,9 @@ using namespace servicetest;
 
 namespace {
 
-// Records each start with its standard input, publishes its pid the way the
-// client does, then stays alive. Output goes nowhere, so that a client left
-// behind cannot hold the test runner's pipes open.
+// Records each start with its standard input, publishes its pid as the client
+// does, then stays. Output goes nowhere, so a client left behind cannot hold
+// the test runner's pipes open.
 const char* const kClientScript =
     "#!/bin/sh\n"
     "exec >/dev/null 2>&1\n"
@@ -32,164 +29,141 @@ class LaunchTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        home = dir.path() + "/home";
-        fs::create_directories(home + "/.Nimbulo");
         setenv("HOME", home.c_str(), 1);
-        bundle = home + "/.Nimbulo/Nimbulo.app";
-        logPath = dir.path() + "/service.log";
         WriteFile(dir.path() + "/debug", "service_debug=7\n");
-        ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, logPath.c_str(), (dir.path() + "/debug").c_str(), 50), 0);
-        PlatformSetRegistrationTool("");
+        Fresh();
     }
 
     void TearDown() override
     {
         PlatformSetRegistrationTool("");
-        // End the started client and its sleep: they share a process group
-        // of their own, never ours.
-        auto pairs = ParsePairs(ReadFile(home + "/.Nimbulo/ui.pid"));
-        if (pairs.count("pid") != 0) {
-            pid_t pid = static_cast<pid_t>(std::stol(pairs["pid"]));
-            pid_t group = pid > 1 ? getpgid(pid) : -1;
-            if (group > 1 && group != getpgrp())
-                kill(-group, SIGKILL);
-        }
+        // The started client and its sleep share a process group of their own, never ours.
+        pid_t pid = ClientPid();
+        pid_t group = pid > 1 ? getpgid(pid) : -1;
+        if (group > 1 && group != getpgrp())
+            kill(-group, SIGKILL);
     }
 
-    void AddExecutable(const std::string& name, const std::string& content, mode_t mode = 0755)
+    // Ends a started client; no bundle, no records, a fresh log.
+    void Fresh()
+    {
+        TearDown();
+        fs::remove_all(home);
+        fs::create_directories(home + "/.Nimbulo");
+        fs::remove(logPath);
+        ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, logPath.c_str(), (dir.path() + "/debug").c_str(), 50), 0);
+    }
+
+    void AddExecutable(const std::string& name, mode_t mode = 0755)
     {
         std::string path = bundle + "/Contents/MacOS/" + name;
-        WriteFile(path, content);
+        WriteFile(path, kClientScript);
         chmod(path.c_str(), mode);
     }
 
-    // Waits until the client has published its pid; the starts file by then.
-    std::string WaitForStart()
+    pid_t ClientPid() const
     {
-        for (int i = 0; i < 500; ++i) {
-            if (ParsePairs(ReadFile(home + "/.Nimbulo/ui.pid")).count("pid") != 0)
-                break;
+        auto pairs = ParsePairs(ReadFile(home + "/.Nimbulo/ui.pid"));
+        return pairs.count("pid") ? static_cast<pid_t>(std::stol(pairs["pid"])) : -1;
+    }
+
+    // The starts recorded once a client other than `other` published its pid.
+    std::string WaitForStart(pid_t other = -1)
+    {
+        for (int i = 0; i < 500 && (ClientPid() == -1 || ClientPid() == other); ++i)
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        }
         return ReadFile(home + "/starts");
     }
 
-    pid_t ClientPid() { return static_cast<pid_t>(std::stol(ParsePairs(ReadFile(home + "/.Nimbulo/ui.pid"))["pid"])); }
-
     TempDir dir;
-    std::string home;
-    std::string bundle;
-    std::string logPath;
+    std::string home = dir.path() + "/home", bundle = home + "/.Nimbulo/Nimbulo.app";
+    std::string logPath = dir.path() + "/service.log";
 };
+
+const char* const kStarted = "nimbulo-pelora-ui /dev/null\n";
 
 TEST_F(LaunchTest, StartsTheClientOnceDetachedAndNotAgainWhileItRuns)
 {
-    AddExecutable("nimbulo-pelora-ui", kClientScript);
+    AddExecutable("nimbulo-pelora-ui");
     MacService service;
     service.PostUpgrade();
-    EXPECT_EQ(WaitForStart(), "nimbulo-pelora-ui /dev/null\n");
-    pid_t client = ClientPid();
-    EXPECT_NE(getsid(client), getsid(0)) << "the client must have a session of its own";
-
+    EXPECT_EQ(WaitForStart(), kStarted);
+    EXPECT_NE(getsid(ClientPid()), getsid(0)) << "the client must have a session of its own";
     // Opened again while it runs: the running client is the answer.
     EXPECT_EQ(service.LaunchPerUserBin(), 0);
     service.PostUpgrade();
     std::this_thread::sleep_for(std::chrono::milliseconds(700));
-    EXPECT_EQ(ReadFile(home + "/starts"), "nimbulo-pelora-ui /dev/null\n");
-    EXPECT_TRUE(LogMessages(logPath).empty()) << Join(LogMessages(logPath));
+    EXPECT_EQ(ReadFile(home + "/starts"), kStarted);
+    EXPECT_EQ(LogMessages(logPath), std::vector<std::string>{});
 }
 
-// A pid file naming a live process that is not this bundle's client (here:
-// the test itself) must not pass for a running client.
+// A pid file naming a live process that is not this bundle's client (the
+// test itself) must not pass for a running client.
 TEST_F(LaunchTest, UnrelatedLiveProcessInPidFileDoesNotPreventTheStart)
 {
-    AddExecutable("nimbulo-pelora-ui", kClientScript);
+    AddExecutable("nimbulo-pelora-ui");
     WriteFile(home + "/.Nimbulo/ui.pid", "pid=" + std::to_string(getpid()) + "\n");
     MacService service;
     EXPECT_EQ(service.LaunchPerUserBin(), 0);
-    for (int i = 0; i < 500 && ReadFile(home + "/starts").empty(); ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    EXPECT_EQ(ReadFile(home + "/starts"), "nimbulo-pelora-ui /dev/null\n");
-    for (int i = 0; i < 500 && ClientPid() == getpid(); ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    EXPECT_EQ(WaitForStart(getpid()), kStarted);
 }
 
+// Guards: the plist ignored, a name escaping Contents/MacOS, no fallback.
 TEST_F(LaunchTest, InfoPlistChoosesTheExecutable)
 {
-    struct Row {
-        std::string plist;  // empty: no Info.plist
-        std::string started;
-    };
-    const std::vector<Row> rows = {
+    const std::vector<std::pair<std::string, std::string>> rows = {
         {"<plist><dict><key>CFBundleExecutable</key>\n\t<string>custom-ui</string></dict></plist>", "custom-ui"},
         {"<plist><dict><key>CFBundleName</key><string>custom-ui</string></dict></plist>", "nimbulo-pelora-ui"},
         {"<plist><dict><key>CFBundleExecutable</key><string>../escape</string></dict></plist>", "nimbulo-pelora-ui"},
         {"", "nimbulo-pelora-ui"},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.plist);
-        TearDown();
-        fs::remove_all(bundle);
-        fs::remove(home + "/starts");
-        fs::remove(home + "/.Nimbulo/ui.pid");
-        AddExecutable("nimbulo-pelora-ui", kClientScript);
-        AddExecutable("custom-ui", kClientScript);
-        if (!row.plist.empty())
-            WriteFile(bundle + "/Contents/Info.plist", row.plist);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.first);
+        Fresh();
+        AddExecutable("nimbulo-pelora-ui");
+        AddExecutable("custom-ui");
+        if (!row.first.empty())
+            WriteFile(bundle + "/Contents/Info.plist", row.first);
         MacService service;
         EXPECT_EQ(service.LaunchPerUserBin(), 0);
-        EXPECT_EQ(WaitForStart(), row.started + " /dev/null\n");
+        EXPECT_EQ(WaitForStart(), row.second + " /dev/null\n");
     }
 }
 
-// Nothing to start, or a file that cannot be executed: the exec failure
-// must come back as a failed launch, not as a started client.
+// Nothing to start, or a file that cannot be executed: the exec failure must
+// come back as a failed launch.
 TEST_F(LaunchTest, UnstartableExecutableReportsFailure)
 {
-    struct Row {
-        const char* what;
-        bool create;
-        mode_t mode;
-    };
-    const std::vector<Row> rows = {{"missing", false, 0}, {"not executable", true, 0644}};
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
-        fs::remove_all(bundle);
+    for (bool create : {false, true}) {
+        SCOPED_TRACE(create ? "not executable" : "missing");
+        Fresh();
         fs::create_directories(bundle + "/Contents/MacOS");
-        fs::remove(logPath);
-        ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, logPath.c_str(), (dir.path() + "/debug").c_str(), 50), 0);
-        if (row.create)
-            AddExecutable("nimbulo-pelora-ui", kClientScript, row.mode);
+        if (create)
+            AddExecutable("nimbulo-pelora-ui", 0644);
         MacService service;
         EXPECT_EQ(service.LaunchPerUserBin(), -1);
         service.PostUpgrade();
-        std::vector<std::string> expected = {"[ERROR] mac/mac-service(N): Failed to launch Nimbulo UI"};
-        EXPECT_EQ(LogMessages(logPath), expected);
+        EXPECT_EQ(LogMessages(logPath),
+                  std::vector<std::string>{"[ERROR] mac/mac-service(N): Failed to launch Nimbulo UI"});
         EXPECT_EQ(ReadFile(home + "/starts"), "");
     }
 }
 
 TEST_F(LaunchTest, RegistrationToolGetsTheBundleAndItsExitCodeIsReported)
 {
-    std::string record = dir.path() + "/tool-args";
-    std::string recorder = dir.path() + "/recorder";
+    const std::string record = dir.path() + "/tool-args", recorder = dir.path() + "/recorder";
+    const std::string crasher = dir.path() + "/crasher";
     WriteFile(recorder, "#!/bin/sh\nprintf '%s|%s\\n' \"$1\" \"$2\" >> '" + record + "'\nexit 3\n");
-    chmod(recorder.c_str(), 0755);
-    std::string crasher = dir.path() + "/crasher";
     WriteFile(crasher, "#!/bin/sh\nkill -9 $$\n");
+    chmod(recorder.c_str(), 0755);
     chmod(crasher.c_str(), 0755);
-
-    struct Row {
-        std::string tool;
-        int code;
-    };
-    const std::vector<Row> rows = {
+    const std::vector<std::pair<std::string, int>> rows = {
         {"", 0}, {"/bin/true", 0}, {"/bin/false", 1}, {recorder, 3}, {crasher, -1}, {dir.path() + "/absent", -2}};
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.tool);
-        PlatformSetRegistrationTool(row.tool.c_str());
-        EXPECT_EQ(PlatformRegistrationTool(), ustring(row.tool.c_str()));
-        EXPECT_EQ(PlatformForgetBundle(bundle.c_str()), row.code);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.first);
+        PlatformSetRegistrationTool(row.first.c_str());
+        EXPECT_EQ(PlatformRegistrationTool(), ustring(row.first.c_str()));
+        EXPECT_EQ(PlatformForgetBundle(bundle.c_str()), row.second);
     }
     // The launch bundle is the per-user application folder A.
     PlatformSetRegistrationTool(recorder.c_str());
@@ -199,27 +173,21 @@ TEST_F(LaunchTest, RegistrationToolGetsTheBundleAndItsExitCodeIsReported)
     EXPECT_EQ(std::string(Service::GetUserNimbuloAppInstallPath().c_str()), bundle);
 }
 
-// A failing or missing registration tool is reported with the bundle path
-// and the bundle is opened all the same.
+// A failing or missing tool is reported with the bundle path, without a line
+// break of its own, and the bundle is opened all the same.
 TEST_F(LaunchTest, CannotUnregisterBundleStillOpensIt)
 {
-    AddExecutable("nimbulo-pelora-ui", kClientScript);
     for (std::string tool : {std::string("/bin/false"), dir.path() + "/no-such-tool"}) {
         SCOPED_TRACE(tool);
-        TearDown();
-        fs::remove(home + "/starts");
-        fs::remove(home + "/.Nimbulo/ui.pid");
-        fs::remove(logPath);
-        ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, logPath.c_str(), (dir.path() + "/debug").c_str(), 50), 0);
+        Fresh();
+        AddExecutable("nimbulo-pelora-ui");
         PlatformSetRegistrationTool(tool.c_str());
         MacService service;
         service.PostUpgrade();
-        EXPECT_EQ(WaitForStart(), "nimbulo-pelora-ui /dev/null\n");
-        // The message has no line break of its own.
-        std::vector<std::string> expected = {"[ERROR] mac/mac-service(N): Cannot unregister bundle, " + bundle};
-        EXPECT_EQ(LogMessages(logPath), expected);
-        std::string raw = ReadFile(logPath);
-        EXPECT_TRUE(!raw.empty() && raw.back() == 'p') << "no line break after the bundle path";
+        EXPECT_EQ(WaitForStart(), kStarted);
+        EXPECT_EQ(LogMessages(logPath),
+                  std::vector<std::string>{"[ERROR] mac/mac-service(N): Cannot unregister bundle, " + bundle});
+        EXPECT_EQ(ReadFile(logPath).back(), 'p') << "no line break after the bundle path";
     }
 }
 

@@ -1,25 +1,15 @@
 // Helper program of the upgrade-service tests.
-//
-//   service_helper layout
-//       Prints the installation paths as key=value lines. The tests copy it
-//       into a bundle's Contents/MacOS, since the bundle root is derived
-//       from the running executable's folder.
-//
-//   service_helper ns <case> <dir>
-//       Runs one StopService case. Must be process 1 of a fresh PID
-//       namespace (unshare --pid --fork --mount-proc): it refuses otherwise,
-//       because the cases hand kill() process ids such as 0 and -1 that,
-//       should they ever get through, address process groups or every
-//       process the caller may signal. As process 1 it reaps every process
-//       of the namespace and records how each ended in <dir>/reaped; the
-//       case itself runs in a child and writes <dir>/result.
+//   service_helper layout: prints the installation paths as key=value lines,
+//       run from a copy inside a bundle's Contents/MacOS.
+//   service_helper ns <case> <dir>: runs one StopService case as process 1
+//       of a fresh PID namespace, and refuses otherwise: the cases hand kill()
+//       ids such as 0 and -1, which address process groups or every process.
+//       Process 1 reaps every process and records how each ended in
+//       <dir>/reaped; the case runs in a child and writes <dir>/result.
 #include <cerrno>
 #include <chrono>
 #include <csignal>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
-#include <ctime>
 #include <string>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -55,6 +45,7 @@ int Layout(int argc, char** argv)
     QCoreApplication app(argc, argv);
     MacService service;
     PackageInfo info;
+    // clang-format off
     printf("root=%s\n", Service::GetRootNimbuloInstallPath().c_str());
     printf("resources=%s\n", Service::GetRootNimbuloResourceInstallPath().c_str());
     printf("home=%s\n", Service::GetUserInstallPath().c_str());
@@ -67,14 +58,9 @@ int Layout(int argc, char** argv)
     printf("debugflag=%s\n", info.debugFlagPath.c_str());
     printf("package=%s\n", info.packagePath.c_str());
     printf("conf=%s\n", info.confPath.c_str());
+    // clang-format on
     return 0;
 }
-
-// --- client processes -------------------------------------------------------
-//
-// A client is started as a grandchild: its parent exits at once, so it is
-// re-parented to process 1, which reaps it the moment it ends. A process of
-// our own would linger as a zombie, which kill(pid, 0) still finds.
 
 volatile sig_atomic_t g_terminated = 0;
 
@@ -113,7 +99,9 @@ void ClientMain(ClientKind kind, int readyFd)
     }
 }
 
-// The client's process id, once it is ready to receive signals; -1 on failure.
+// The client's pid once it is ready for signals, -1 on failure. A grandchild,
+// so that process 1 reaps it the moment it ends: a child of ours would linger
+// as a zombie, which kill(pid, 0) still finds.
 pid_t StartClient(ClientKind kind)
 {
     int fds[2];
@@ -139,15 +127,6 @@ bool Gone(pid_t pid)
 {
     return kill(pid, 0) != 0 && errno == ESRCH;
 }
-
-long long NowMs()
-{
-    return std::chrono::duration_cast<std::chrono::milliseconds>(
-               std::chrono::steady_clock::now().time_since_epoch())
-        .count();
-}
-
-// --- one case, in the child of process 1 -----------------------------------
 
 int RunCase(const std::string& name)
 {
@@ -176,9 +155,8 @@ int RunCase(const std::string& name)
             return 2;
         Append(pidFile, "pid=" + std::to_string(client) + "\n");
     } else if (name.compare(0, 5, "file:") == 0) {
-        // The pid file's whole content, given by the test; a sentinel in
-        // the same process group and namespace shows whether anything was
-        // signalled.
+        // The pid file's content from the test; a sentinel in the same
+        // group and namespace shows whether anything was signalled.
         client = StartClient(kSentinel);
         if (client <= 1)
             return 2;
@@ -188,26 +166,21 @@ int RunCase(const std::string& name)
     }
 
     MacService service;
-    long long start = NowMs();
+    auto start = std::chrono::steady_clock::now();
     service.StopService();
-    long long elapsed = NowMs() - start;
-    Append(result, "elapsed_ms=" + std::to_string(elapsed) + "\n");
+    auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
+    Append(result, "elapsed_ms=" + std::to_string(elapsed.count()) + "\n");
 
     if (client > 1) {
         long long waited = 0;
-        if (name == "ignore" || name == "slow") {
-            // Process 1 reaps the killed client within moments.
-            while (!Gone(client) && waited < 1000) {
-                SleepMs(10);
-                waited += 10;
-            }
-        } else {
+        // Process 1 reaps a killed client within moments; one still alive
+        // ends with the namespace.
+        for (; (name == "ignore" || name == "slow") && !Gone(client) && waited < 1000; waited += 10)
+            SleepMs(10);
+        if (name != "ignore" && name != "slow")
             SleepMs(200);
-        }
-        Append(result, "client=" + std::to_string(client) + "\n");
-        Append(result, std::string("client_gone=") + (Gone(client) ? "1" : "0") + "\n");
-        Append(result, "gone_after_ms=" + std::to_string(waited) + "\n");
-        // A client still alive ends with the namespace when process 1 exits.
+        Append(result, "client=" + std::to_string(client) + "\nclient_gone=" + (Gone(client) ? "1" : "0") +
+                           "\ngone_after_ms=" + std::to_string(waited) + "\n");
     }
     return 0;
 }
@@ -218,8 +191,7 @@ int Namespace(const std::string& name)
         fprintf(stderr, "service_helper: not process 1 of a fresh PID namespace, refusing to run\n");
         return 3;
     }
-    // A session and process group of our own: kill(0, ...) from the case
-    // must not be able to reach the process group of whoever started us.
+    // kill(0, ...) from the case must not reach the group of whoever started us.
     if (setsid() < 0) {
         fprintf(stderr, "service_helper: setsid failed, refusing to run\n");
         return 3;
@@ -238,10 +210,9 @@ int Namespace(const std::string& name)
         }
         if (pid == runner)
             return WIFEXITED(status) ? WEXITSTATUS(status) : 5;
-        if (WIFSIGNALED(status))
-            Append(reaped, std::to_string(pid) + " signal " + std::to_string(WTERMSIG(status)) + "\n");
-        else
-            Append(reaped, std::to_string(pid) + " exit " + std::to_string(WEXITSTATUS(status)) + "\n");
+        Append(reaped, std::to_string(pid) + (WIFSIGNALED(status) ? " signal " + std::to_string(WTERMSIG(status))
+                                                                   : " exit " + std::to_string(WEXITSTATUS(status))) +
+                           "\n");
     }
 }
 

@@ -1,12 +1,8 @@
-// The installation layout as a real bundle sees it: the helper program is
-// copied into <tmp>/X.app/Contents/MacOS and run there, because the bundle
-// root is derived from the running executable's own folder.
-#include <gtest/gtest.h>
-
+// The installation layout as a real bundle sees it: the helper is copied into
+// <tmp>/X.app/Contents/MacOS and run there, since the bundle root is derived
+// from the running executable's own folder.
 #include <atomic>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include "mac-service.h"
 #include "service_test_util.h"
@@ -15,71 +11,51 @@ using namespace servicetest;
 
 namespace {
 
-const char* const kHelper = SERVICE_HELPER;
-
 TEST(ServiceLayoutTest, PathsOfABundleAndANonAsciiHome)
 {
-    struct Row {
-        const char* what;
-        std::string homeName;
-    };
-    const std::vector<Row> rows = {
+    const std::vector<std::pair<const char*, std::string>> rows = {
         {"ascii", "someone"},
         {"composed", "h\xc3\xb6m\xc3\xa9-\xe9\x9b\xb2 user"},
-        // Decomposed u + combining diaeresis must stay decomposed: the paths
-        // are joined, never normalised.
+        // Decomposed u + combining diaeresis stays decomposed: paths are
+        // joined, never normalised.
         {"decomposed", "u\xcc\x88" "ber"},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.first);
         TempDir dir;
-        std::string bundle = dir.path() + "/X.app";
-        std::string macos = bundle + "/Contents/MacOS";
+        const std::string bundle = dir.path() + "/X.app", macos = bundle + "/Contents/MacOS";
+        const std::string home = dir.path() + "/" + row.second;
         fs::create_directories(macos);
-        fs::copy_file(kHelper, macos + "/service_helper");
-        std::string home = dir.path() + "/" + row.homeName;
         fs::create_directories(home);
-
+        fs::copy_file(SERVICE_HELPER, macos + "/service_helper");
         RunResult run = RunProgram({macos + "/service_helper", "layout"}, {{"HOME", home}});
         ASSERT_EQ(run.status, 0) << run.output;
-        auto p = ParsePairs(run.output);
-
-        EXPECT_EQ(p["root"], bundle);
-        EXPECT_EQ(p["root"].find(".."), std::string::npos);
-        EXPECT_NE(p["root"].back(), '/');
-        EXPECT_EQ(p["resources"], bundle + "/Contents/Resources");
-        EXPECT_EQ(p["home"], home);
-        EXPECT_EQ(p["user"], home + "/.Nimbulo");
-        EXPECT_EQ(p["app"], home + "/.Nimbulo/Nimbulo.app");
-        EXPECT_EQ(p["data"], home + "/.Nimbulo/data");
-        EXPECT_EQ(p["userAppPath"], p["app"]);
-        EXPECT_EQ(p["images"], macos + "/images");
-        EXPECT_EQ(p["logroot"], home + "/.Nimbulo_log");
-        EXPECT_EQ(p["debugflag"], macos + "/log/launcher.debug");
-        EXPECT_EQ(p["package"], macos + "/package/nimbulo.spk");
-        EXPECT_EQ(p["conf"], macos + "/conf");
-        // Nothing of the layout is created by computing it.
-        EXPECT_FALSE(fs::exists(home + "/.Nimbulo"));
+        EXPECT_EQ(ParsePairs(run.output), (std::map<std::string, std::string>{
+                                              {"root", bundle},  // no "..", no trailing "/"
+                                              {"resources", bundle + "/Contents/Resources"},
+                                              {"home", home},
+                                              {"user", home + "/.Nimbulo"},
+                                              {"app", home + "/.Nimbulo/Nimbulo.app"},
+                                              {"data", home + "/.Nimbulo/data"},
+                                              {"userAppPath", home + "/.Nimbulo/Nimbulo.app"},
+                                              {"images", macos + "/images"},
+                                              {"logroot", home + "/.Nimbulo_log"},
+                                              {"debugflag", macos + "/log/launcher.debug"},
+                                              {"package", macos + "/package/nimbulo.spk"},
+                                              {"conf", macos + "/conf"},
+                                          }));
+        EXPECT_FALSE(fs::exists(home + "/.Nimbulo")) << "computing the layout created it";
     }
 }
 
 TEST(ServiceLayoutTest, FreshMacServiceState)
 {
-    MacService service;
-    EXPECT_EQ(service.timeout, 10000);
-    const ustring* versions[] = {&service.targetMajorVersion,  &service.targetMinorVersion,
-                                 &service.targetBuildVersion,  &service.targetIconOverlayVersion,
-                                 &service.sourceMajorVersion,  &service.sourceMinorVersion,
-                                 &service.sourceBuildVersion,  &service.sourceIconOverlayVersion};
-    for (const ustring* v : versions)
+    MacService s;
+    EXPECT_EQ(s.timeout, 10000);
+    for (const ustring* v : {&s.targetMajorVersion, &s.targetMinorVersion, &s.targetBuildVersion,
+                             &s.targetIconOverlayVersion, &s.sourceMajorVersion, &s.sourceMinorVersion,
+                             &s.sourceBuildVersion, &s.sourceIconOverlayVersion})
         EXPECT_TRUE(v->empty()) << v->c_str();
-    service.SetTimeout(250);
-    EXPECT_EQ(service.timeout, 250);
-
-    // Deleting through the interface frees the whole object (checked by the
-    // sanitizer builds).
-    Service* base = new MacService();
-    delete base;
 }
 
 TEST(ServiceLayoutTest, GetInstaceIsOneInstanceAlsoUnderConcurrentFirstCalls)
@@ -87,20 +63,16 @@ TEST(ServiceLayoutTest, GetInstaceIsOneInstanceAlsoUnderConcurrentFirstCalls)
     std::atomic<int> ready(0);
     std::vector<MacService*> seen(8, nullptr);
     std::vector<std::thread> threads;
-    for (size_t i = 0; i < seen.size(); ++i) {
+    for (size_t i = 0; i < seen.size(); ++i)
         threads.emplace_back([&, i] {
-            ready++;
-            while (ready.load() < static_cast<int>(seen.size())) {
+            for (ready++; ready.load() < static_cast<int>(seen.size());) {
             }
             seen[i] = MacService::GetInstace();
         });
-    }
     for (auto& t : threads)
         t.join();
-    for (MacService* s : seen)
-        EXPECT_EQ(s, seen[0]);
     EXPECT_NE(seen[0], nullptr);
-    EXPECT_EQ(MacService::GetInstace(), seen[0]);
+    EXPECT_EQ(seen, std::vector<MacService*>(seen.size(), MacService::GetInstace()));
     EXPECT_EQ(seen[0]->timeout, 10000);
 }
 

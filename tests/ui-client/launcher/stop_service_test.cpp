@@ -1,10 +1,7 @@
 // Stopping the per-user client with real processes. Every case runs in the
 // helper program as process 1 of its own PID namespace: StopService is never
 // called in this process, so whatever it signals cannot leave the namespace.
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
+#include <optional>
 
 #include "service_test_util.h"
 
@@ -12,33 +9,26 @@ using namespace servicetest;
 
 namespace {
 
-const char* const kHelper = SERVICE_HELPER;
+const std::vector<std::string> kUnshare = {"/usr/bin/unshare", "--pid", "--fork", "--mount-proc"};
 
-bool NamespacesAllowed(std::string& why)
+std::vector<std::string> InNamespace(std::vector<std::string> argv)
 {
-    RunResult probe = RunProgram({"/usr/bin/unshare", "--pid", "--fork", "--mount-proc", "/bin/true"});
-    if (probe.status != 0) {
-        why = "cannot create a PID namespace here (unshare --pid --fork --mount-proc exited " +
-              std::to_string(probe.status) + "); signal tests are not run outside one";
-        return false;
-    }
-    return true;
+    argv.insert(argv.begin(), kUnshare.begin(), kUnshare.end());
+    return argv;
 }
 
 struct CaseResult {
-    std::map<std::string, std::string> values;
-    std::vector<std::string> log;
-    std::string reaped;
-    std::string client;
-    std::string pidFile;
     int status = -1;
+    std::map<std::string, std::string> values;  // elapsed_ms, client, client_gone, gone_after_ms
+    std::vector<std::string> log;
+    std::string reaped, client, pidFile;
 };
 
-CaseResult RunCase(const TempDir& dir, const std::string& name)
+CaseResult RunCase(const std::string& name)
 {
+    TempDir dir;
     CaseResult r;
-    RunResult run = RunProgram({"/usr/bin/unshare", "--pid", "--fork", "--mount-proc", kHelper, "ns", name, dir.path()});
-    r.status = run.status;
+    r.status = RunProgram(InNamespace({SERVICE_HELPER, "ns", name, dir.path()})).status;
     r.values = ParsePairs(ReadFile(dir.path() + "/result"));
     r.log = LogMessages(dir.path() + "/service.log");
     r.reaped = ReadFile(dir.path() + "/reaped");
@@ -47,9 +37,9 @@ CaseResult RunCase(const TempDir& dir, const std::string& name)
     return r;
 }
 
-long Elapsed(const CaseResult& r)
+long Value(const CaseResult& r, const char* key)
 {
-    auto it = r.values.find("elapsed_ms");
+    auto it = r.values.find(key);
     return it == r.values.end() ? -1 : std::stol(it->second);
 }
 
@@ -57,120 +47,84 @@ class StopServiceTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        std::string why;
-        if (!NamespacesAllowed(why))
-            GTEST_SKIP() << why;
+        int status = RunProgram(InNamespace({"/bin/true"})).status;
+        if (status != 0)
+            GTEST_SKIP() << "cannot create a PID namespace here (unshare --pid --fork --mount-proc exited " << status
+                         << "); signal tests are not run outside one";
     }
 };
 
-TEST_F(StopServiceTest, NoPidFileLogsOnceAndReturnsAtOnce)
-{
-    TempDir dir;
-    CaseResult r = RunCase(dir, "nofile");
-    ASSERT_EQ(r.status, 0);
-    EXPECT_LT(Elapsed(r), 500);
-    std::vector<std::string> expected = {"[DEBUG] mac/mac-service(N): pid file '" + r.pidFile +
-                                         "' does not exist, no need to terminate"};
-    EXPECT_EQ(r.log, expected);
-}
-
-// A stale pid: SIGTERM fails with ESRCH, which must end the operation at
-// once, without the error message and without the five-second wait.
-TEST_F(StopServiceTest, StalePidReturnsAtOnceSilently)
-{
-    TempDir dir;
-    CaseResult r = RunCase(dir, "stale");
-    ASSERT_EQ(r.status, 0);
-    EXPECT_LT(Elapsed(r), 500);
-    EXPECT_TRUE(r.log.empty()) << Join(r.log);
-}
-
-// Exits 1.5 s after SIGTERM: probes at 0 s and 1 s find it, the probe at 2 s
-// does not. Guards against waiting before the first probe, against a
-// missing probe loop and against a SIGKILL sent to a client that went.
-TEST_F(StopServiceTest, ClientLeavingWithinTheScheduleIsNotKilled)
-{
-    TempDir dir;
-    CaseResult r = RunCase(dir, "slow");
-    ASSERT_EQ(r.status, 0);
-    EXPECT_GE(Elapsed(r), 1900);
-    EXPECT_LT(Elapsed(r), 2700);
-    EXPECT_EQ(r.client, "term\nexit\n");
-    EXPECT_EQ(r.values["client_gone"], "1");
-    EXPECT_EQ(r.reaped, r.values["client"] + " exit 0\n");
-    EXPECT_TRUE(r.log.empty()) << Join(r.log);
-}
-
-// Ignores SIGTERM: five one-second waits, then SIGKILL and no further wait.
-TEST_F(StopServiceTest, ClientIgnoringTermIsKilledAfterFiveSeconds)
-{
-    TempDir dir;
-    CaseResult r = RunCase(dir, "ignore");
-    ASSERT_EQ(r.status, 0);
-    EXPECT_GE(Elapsed(r), 4900);
-    EXPECT_LT(Elapsed(r), 5700);
-    EXPECT_EQ(r.client, "term\n");
-    EXPECT_EQ(r.values["client_gone"], "1");
-    EXPECT_LT(std::stol(r.values["gone_after_ms"]), 500);
-    EXPECT_EQ(r.reaped, r.values["client"] + " signal 9\n");
-    EXPECT_TRUE(r.log.empty()) << Join(r.log);
-}
-
-// Pid values that must never reach kill(). 0 would signal the caller's
-// process group and -1 every process of the namespace: the sentinel, in
-// that group and namespace, must survive every row.
-TEST_F(StopServiceTest, InvalidPidValuesSignalNothing)
+// The schedule: SIGTERM, five probes one second apart, then SIGKILL.
+TEST_F(StopServiceTest, Schedule)
 {
     struct Row {
-        std::string content;  // the whole pid file
-        std::string note;     // the expected NOTE text after the file name
+        const char* name;
+        long minMs, maxMs;
+        std::string client;                 // what the client recorded
+        std::optional<std::string> reaped;  // how it ended, after its pid
+        bool pidFileMissing;
     };
     const std::vector<Row> rows = {
-        {"pid=0\n", "' holds no valid pid '0', no need to terminate"},
-        {"pid=-1\n", "' holds no valid pid '-1', no need to terminate"},
-        {"pid=\"\"\n", "' holds no valid pid '', no need to terminate"},
-        {"other=12\n", "' holds no valid pid '', no need to terminate"},
-        {"pid=abc\n", "' holds no valid pid 'abc', no need to terminate"},
-        {"pid=12abc\n", "' holds no valid pid '12abc', no need to terminate"},
-        {"pid=+12\n", "' holds no valid pid '+12', no need to terminate"},
-        {"pid=99999999999\n", "' holds no valid pid '99999999999', no need to terminate"},
-        {"pid=18446744073709551615\n", "' holds no valid pid '18446744073709551615', no need to terminate"},
-        // Unreadable for the key=value reader: the neighbouring message.
-        {"pid=\n", "', not exist ?"},
+        {"nofile", 0, 500, "", "", true},
+        // ESRCH on SIGTERM ends the operation at once, silently, without the wait.
+        {"stale", 0, 500, "", std::nullopt, false},
+        // Exits 1.5 s after SIGTERM: probes at 0 s and 1 s find it, 2 s does
+        // not. Guards a wait before the first probe, a missing probe loop, a
+        // SIGKILL for a client that went.
+        {"slow", 1900, 2700, "term\nexit\n", " exit 0\n", false},
+        // Ignores SIGTERM: killed right after the fifth wait.
+        {"ignore", 4900, 5700, "term\n", " signal 9\n", false},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.content);
-        TempDir dir;
-        CaseResult r = RunCase(dir, "file:" + row.content);
-        EXPECT_EQ(r.status, 0) << "the case's own process did not end normally";
-        EXPECT_LT(Elapsed(r), 500);
-        EXPECT_EQ(r.values["client_gone"], "0") << "the sentinel was signalled";
-        EXPECT_EQ(r.reaped, "");
-        std::string prefix = row.note == "', not exist ?" ? "[NOTE] mac/mac-service(N): Failed to read pid file '"
-                                                          : "[NOTE] mac/mac-service(N): pid file '";
-        std::vector<std::string> expected = {prefix + r.pidFile + row.note};
-        EXPECT_EQ(r.log, expected);
+        SCOPED_TRACE(row.name);
+        CaseResult r = RunCase(row.name);
+        ASSERT_EQ(r.status, 0);
+        EXPECT_GE(Value(r, "elapsed_ms"), row.minMs);
+        EXPECT_LT(Value(r, "elapsed_ms"), row.maxMs);
+        EXPECT_EQ(r.client, row.client);
+        if (row.reaped) {
+            EXPECT_EQ(r.reaped, row.reaped->empty() ? "" : r.values["client"] + *row.reaped);
+        }
+        if (!row.pidFileMissing) {
+            EXPECT_EQ(r.values["client_gone"], "1");
+            EXPECT_LT(Value(r, "gone_after_ms"), 500);
+        }
+        EXPECT_EQ(r.log, row.pidFileMissing ? std::vector<std::string>{"[DEBUG] mac/mac-service(N): pid file '" +
+                                                                       r.pidFile + "' does not exist, no need to terminate"}
+                                            : std::vector<std::string>{});
     }
 }
 
-// The largest pid the system allows is pid_max - 1: pid_max itself is
-// refused, and so is a value just beyond it that still fits an int. The
-// limit is read as the namespace sees it (a container may show another
-// value outside).
-TEST_F(StopServiceTest, PidAbovePidMaxSignalsNothing)
+// Pid values that must never reach kill(): 0 would signal the caller's
+// process group, -1 every process of the namespace. The sentinel, in that
+// group and namespace, must survive every row.
+TEST_F(StopServiceTest, InvalidPidValuesSignalNothing)
 {
-    RunResult limit = RunProgram({"/usr/bin/unshare", "--pid", "--fork", "--mount-proc", "/bin/cat",
-                                  "/proc/sys/kernel/pid_max"});
+    // The largest pid is pid_max - 1, as the namespace sees it (a container
+    // may show another value outside).
+    RunResult limit = RunProgram(InNamespace({"/bin/cat", "/proc/sys/kernel/pid_max"}));
     ASSERT_EQ(limit.status, 0);
-    long pidMax = std::stol(limit.output);
-    for (long value : {pidMax, pidMax + 1}) {
-        SCOPED_TRACE(value);
-        TempDir dir;
-        CaseResult r = RunCase(dir, "file:pid=" + std::to_string(value) + "\n");
-        ASSERT_EQ(r.status, 0);
-        EXPECT_EQ(r.values["client_gone"], "0");
-        ASSERT_EQ(r.log.size(), 1u);
-        EXPECT_NE(r.log[0].find("holds no valid pid '" + std::to_string(value) + "'"), std::string::npos);
+    const std::string max = std::to_string(std::stol(limit.output)), beyond = std::to_string(std::stol(max) + 1);
+    // The pid file's content and the value its NOTE names; none: the file is
+    // unreadable for the key=value reader, which has a message of its own.
+    const std::vector<std::pair<std::string, std::optional<std::string>>> rows = {
+        {"pid=0\n", "0"}, {"pid=-1\n", "-1"}, {"pid=\"\"\n", ""}, {"other=12\n", ""}, {"pid=abc\n", "abc"},
+        {"pid=12abc\n", "12abc"}, {"pid=+12\n", "+12"}, {"pid=99999999999\n", "99999999999"},
+        {"pid=18446744073709551615\n", "18446744073709551615"}, {"pid=" + max + "\n", max},
+        {"pid=" + beyond + "\n", beyond}, {"pid=\n", std::nullopt},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.first);
+        CaseResult r = RunCase("file:" + row.first);
+        EXPECT_EQ(r.status, 0) << "the case's own process did not end normally";
+        EXPECT_LT(Value(r, "elapsed_ms"), 500);
+        EXPECT_EQ(r.values["client_gone"], "0") << "the sentinel was signalled";
+        EXPECT_EQ(r.reaped, "");
+        EXPECT_EQ(r.log, std::vector<std::string>{
+                             row.second ? "[NOTE] mac/mac-service(N): pid file '" + r.pidFile +
+                                              "' holds no valid pid '" + *row.second + "', no need to terminate"
+                                        : "[NOTE] mac/mac-service(N): Failed to read pid file '" + r.pidFile +
+                                              "', not exist ?"});
     }
 }
 

@@ -1,3 +1,5 @@
+// QtSingleApplication across real processes: the test program is its own
+// helper (--hold).
 #include <gtest/gtest.h>
 
 #include <stdlib.h>
@@ -37,62 +39,48 @@ std::string SelfPath()
 }
 
 // A fresh folder per test, removed unless the test failed.
-class TempDir {
-public:
-    TempDir()
-    {
+struct TempDir {
+    std::string path = [] {
         char pattern[] = "/tmp/qtsingleapp-test-XXXXXX";
-        const char* made = mkdtemp(pattern);
-        path = made ? made : "";
-    }
+        return std::string(mkdtemp(pattern) ? pattern : "");
+    }();
     ~TempDir()
     {
-        if (!path.empty() && !::testing::Test::HasFailure()) {
-            std::error_code ec;
+        std::error_code ec;
+        if (!path.empty() && !::testing::Test::HasFailure())
             fs::remove_all(path, ec);
-        }
     }
-    std::string path;
 };
 
 class Instance {
 public:
     // program is started directly, or through the given wrapper arguments.
-    Instance(const std::string& runtimeDir, const std::string& program, const QStringList& wrapper = QStringList())
+    Instance(const std::string& runtimeDir, const std::string& program, QStringList args = {})
     {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert("XDG_RUNTIME_DIR", QString::fromStdString(runtimeDir));
         env.insert("QT_QPA_PLATFORM", "offscreen");
         process.setProcessEnvironment(env);
         process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        QStringList args = wrapper;
         args << QString::fromStdString(program) << "--hold";
-        QString exe = args.takeFirst();
-        process.start(exe, args);
+        process.start(args.takeFirst(), args);
     }
     ~Instance()
     {
-        if (process.state() != QProcess::NotRunning) {
-            process.closeWriteChannel();
-            if (!process.waitForFinished(10000))
-                process.kill();
-            process.waitForFinished(10000);
-        }
+        process.closeWriteChannel();
+        if (process.state() != QProcess::NotRunning && !process.waitForFinished(10000))
+            process.kill();
+        process.waitForFinished(10000);
     }
 
     // The helper's isRunning() answer: 0 or 1, -1 when it said nothing.
     int Answer()
     {
-        while (!process.canReadLine()) {
+        while (!process.canReadLine())
             if (!process.waitForReadyRead(15000))
                 return -1;
-        }
         QByteArray line = process.readLine().trimmed();
-        if (line == "running=0")
-            return 0;
-        if (line == "running=1")
-            return 1;
-        return -1;
+        return line == "running=0" ? 0 : line == "running=1" ? 1 : -1;
     }
 
     // Lets the helper leave normally, releasing its lock.
@@ -125,10 +113,8 @@ protected:
     int LockFiles()
     {
         int count = 0;
-        for (const auto& entry : fs::directory_iterator(runtime.path)) {
-            if (entry.path().extension() == ".lock")
-                count++;
-        }
+        for (const auto& entry : fs::directory_iterator(runtime.path))
+            count += entry.path().extension() == ".lock" ? 1 : 0;
         return count;
     }
 
@@ -139,19 +125,12 @@ TEST_F(SingleApplicationTest, SecondInstanceOfSameExecutableSeesFirst)
 {
     Instance first(runtime.path, SelfPath());
     ASSERT_EQ(0, first.Answer());
-    // The lock lives in the user's runtime folder.
-    EXPECT_EQ(1, LockFiles());
-
-    {
-        Instance second(runtime.path, SelfPath());
-        EXPECT_EQ(1, second.Answer());
-        // A refused instance must not take the lock from the first one.
-        EXPECT_TRUE(second.Finish());
-    }
-    {
-        Instance third(runtime.path, SelfPath());
-        EXPECT_EQ(1, third.Answer()) << "the refused instance released the first one's lock";
-        EXPECT_TRUE(third.Finish());
+    EXPECT_EQ(1, LockFiles()) << "the lock lives in the user's runtime folder";
+    // The second is refused; the third shows the refused one left the lock alone.
+    for (int i = 0; i < 2; ++i) {
+        Instance later(runtime.path, SelfPath());
+        EXPECT_EQ(1, later.Answer()) << i;
+        EXPECT_TRUE(later.Finish());
     }
 
     ASSERT_TRUE(first.Finish());
@@ -181,12 +160,8 @@ TEST_F(SingleApplicationTest, KilledFirstInstanceDoesNotBlockNextStart)
 TEST_F(SingleApplicationTest, KilledInstanceInPidNamespaceDoesNotBlockNextOne)
 {
     const QStringList unshare = {"unshare", "--pid", "--fork", "--mount-proc", "--kill-child"};
-    {
-        QProcess probe;
-        probe.start("unshare", {"--pid", "--fork", "--mount-proc", "--kill-child", "true"});
-        if (!probe.waitForFinished(15000) || probe.exitStatus() != QProcess::NormalExit || probe.exitCode() != 0)
-            GTEST_SKIP() << "pid namespaces are not available here (unshare refused)";
-    }
+    if (QProcess::execute("unshare", QStringList(unshare.mid(1)) << "true") != 0)
+        GTEST_SKIP() << "pid namespaces are not available here (unshare refused)";
     {
         Instance first(runtime.path, SelfPath(), unshare);
         ASSERT_EQ(0, first.Answer());
@@ -197,45 +172,31 @@ TEST_F(SingleApplicationTest, KilledInstanceInPidNamespaceDoesNotBlockNextOne)
     Instance next(runtime.path, SelfPath(), unshare);
     int answer = next.Answer();
     for (int tries = 0; answer == 1 && tries < 50; tries++) {
-        QProcess sleeper;
-        sleeper.start("sleep", {"0.1"});
-        sleeper.waitForFinished();
-        Instance retry(runtime.path, SelfPath(), unshare);
-        answer = retry.Answer();
+        usleep(100000);
+        answer = Instance(runtime.path, SelfPath(), unshare).Answer();
     }
     EXPECT_EQ(0, answer);
 }
 
-TEST_F(SingleApplicationTest, CopyAtAnotherPathIsNotRefused)
+TEST_F(SingleApplicationTest, CopyAtAnotherPathIsNotRefusedButALinkIs)
 {
     TempDir elsewhere;
     ASSERT_FALSE(elsewhere.path.empty());
     const std::string copy = elsewhere.path + "/" + fs::path(SelfPath()).filename().string();
     fs::copy_file(SelfPath(), copy);
     fs::permissions(copy, fs::perms::owner_all);
-
-    Instance first(runtime.path, SelfPath());
-    ASSERT_EQ(0, first.Answer());
-    Instance other(runtime.path, copy);
-    EXPECT_EQ(0, other.Answer());
-    // Each copy excludes its own second start.
-    Instance otherAgain(runtime.path, copy);
-    EXPECT_EQ(1, otherAgain.Answer());
-}
-
-// A link resolves to the executable it names: the same program.
-TEST_F(SingleApplicationTest, SymbolicLinkToExecutableIsTheSameProgram)
-{
-    TempDir elsewhere;
-    ASSERT_FALSE(elsewhere.path.empty());
+    // A link resolves to the executable it names: the same program.
     const std::string link = elsewhere.path + "/link";
     fs::create_symlink(SelfPath(), link);
 
     Instance first(runtime.path, SelfPath());
     ASSERT_EQ(0, first.Answer());
-    Instance viaLink(runtime.path, link);
-    EXPECT_EQ(1, viaLink.Answer());
+    EXPECT_EQ(1, Instance(runtime.path, link).Answer());
+    Instance other(runtime.path, copy);
+    EXPECT_EQ(0, other.Answer());
+    EXPECT_EQ(1, Instance(runtime.path, copy).Answer()) << "each copy excludes its own second start";
 }
+
 
 }  // namespace
 

@@ -36,11 +36,6 @@ std::set<QString> Placeholders(const QString& text)
     return found;
 }
 
-int Count(const QString& text, const QString& what)
-{
-    return text.count(what);
-}
-
 class TranslatedCatalogue : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(TranslatedCatalogue, TranslatesEveryTextAndKeepsItsPlaceholders)
@@ -59,8 +54,8 @@ TEST_P(TranslatedCatalogue, TranslatesEveryTextAndKeepsItsPlaceholders)
         ASSERT_FALSE(translated.isEmpty());
         EXPECT_EQ(Placeholders(english), Placeholders(translated));
         // Line breaks and tabs are written as backslash sequences in the texts.
-        EXPECT_EQ(Count(english, "\\n"), Count(translated, "\\n")) << translated.toStdString();
-        EXPECT_EQ(Count(english, "\\t"), Count(translated, "\\t")) << translated.toStdString();
+        EXPECT_EQ(english.count("\\n"), translated.count("\\n")) << translated.toStdString();
+        EXPECT_EQ(english.count("\\t"), translated.count("\\t")) << translated.toStdString();
         if (translated == english)
             ++identical;
     }
