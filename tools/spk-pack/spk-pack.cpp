@@ -184,11 +184,24 @@ int WriteItem(struct archive* a, const Item& item)
     return ret;
 }
 
+// Names are stored as raw bytes (pax "hdrcharset=BINARY"). Declared UTF-8
+// names must be converted to the reader's locale, and where the launcher
+// starts without one (the C locale) libarchive warns for every non-ASCII
+// name; the launcher counts any warning as a failed installation.
+int SetTarFormat(struct archive* a)
+{
+    int r = archive_write_set_format_pax_restricted(a);
+    if (r == ARCHIVE_OK) {
+        r = archive_write_set_format_option(a, "pax", "hdrcharset", "BINARY");
+    }
+    return r;
+}
+
 int SetFormat(struct archive* a, const std::string& format)
 {
     int r;
     if (format == "tar.gz") {
-        r = archive_write_set_format_pax_restricted(a);
+        r = SetTarFormat(a);
         if (r == ARCHIVE_OK) {
             r = archive_write_add_filter_gzip(a);
         }
@@ -197,9 +210,9 @@ int SetFormat(struct archive* a, const std::string& format)
             r = archive_write_set_filter_option(a, "gzip", "timestamp", nullptr);
         }
     } else if (format == "tar") {
-        r = archive_write_set_format_pax_restricted(a);
+        r = SetTarFormat(a);
     } else if (format == "tar.xz") {
-        r = archive_write_set_format_pax_restricted(a);
+        r = SetTarFormat(a);
         if (r == ARCHIVE_OK) {
             r = archive_write_add_filter_xz(a);
         }

@@ -375,3 +375,45 @@ TEST(SpkPack, RefusesBadArgumentsWithoutLeavingOutput)
         EXPECT_FALSE(fs::exists(out.string() + ".part"));
     }
 }
+
+// The launcher may start without any locale. Tar names declared as UTF-8 then
+// need a conversion that libarchive reports with a warning, and the launcher
+// fails the installation on any warning; the names must read back cleanly.
+TEST(SpkPack, NonAsciiNamesReadWithoutWarningInTheCLocale)
+{
+    const std::string accented = "caf\xc3\xa9.txt";
+    for (const char* format : {"tar", "tar.gz", "tar.xz"}) {
+        SCOPED_TRACE(format);
+        TempDir dir;
+        fs::path app = dir.path() / "app";
+        MakeApp(app, false);
+        WriteFile(app / "Contents" / "Resources" / accented, "accent\n");
+        fs::path out = dir.path() / "nimbulo.spk";
+        ASSERT_EQ(0, RunPack({"--format", format, app.string(), out.string()}));
+
+        // A child of its own, so the C locale does not leak into other tests.
+        pid_t pid = fork();
+        if (pid == 0) {
+            setlocale(LC_ALL, "C");
+            struct archive* a = archive_read_new();
+            archive_read_support_filter_all(a);
+            archive_read_support_format_all(a);
+            int found = 0;
+            if (archive_read_open_filename(a, out.c_str(), 10240) != ARCHIVE_OK)
+                _exit(2);
+            struct archive_entry* e;
+            int rc;
+            while ((rc = archive_read_next_header(a, &e)) == ARCHIVE_OK) {
+                if (std::string(archive_entry_pathname(e)) == "Contents/Resources/" + accented)
+                    found = 1;
+            }
+            archive_read_free(a);
+            _exit(rc == ARCHIVE_EOF && found ? 0 : 1);
+        }
+        int status = 0;
+        ASSERT_EQ(pid, waitpid(pid, &status, 0));
+        ASSERT_TRUE(WIFEXITED(status));
+        EXPECT_EQ(0, WEXITSTATUS(status)) << "1: a warning or the name changed; 2: cannot open";
+    }
+}
+
