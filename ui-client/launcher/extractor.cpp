@@ -91,6 +91,8 @@ int Extractor::Extract()
     // A warning is a failure at every step below: the installation must be
     // exactly what the package holds, or it is rolled back.
     int counter = 1;
+    const ustring prefix = destination + "/";
+    ustring target;
     for (;;) {
         archive_entry* entry = nullptr;
         int ret = archive_read_next_header(reader, &entry);
@@ -113,8 +115,10 @@ int Extractor::Extract()
             FreeHandles(reader, writer);
             return -1;
         }
-        // Link targets stay as stored; only the entry's own place moves.
-        ustring target = destination + "/" + name;
+        // Link targets stay as stored; only the entry's own place moves. One
+        // buffer serves every entry: a package may hold tens of thousands.
+        target.assign(prefix);
+        target.append(name);
         archive_entry_set_pathname(entry, target.c_str_utf8());
 
         ret = archive_read_extract2(reader, entry, writer);
