@@ -143,16 +143,18 @@ int Extractor::Extract()
     }
 }
 
-int Extractor::Count()
+// Count and List read the archive alike: a fresh handle with every filter
+// and format. nullptr, after logging why, when that fails.
+archive* Extractor::OpenForListing()
 {
     if (destination.empty() || archivePath.empty()) {
         Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] extractor(%d): Invalid argument\n", __LINE__);
-        return -1;
+        return nullptr;
     }
     archive* reader = archive_read_new();
     if (reader == nullptr) {
         Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] extractor(%d): Allocate archive failed\n", __LINE__);
-        return -1;
+        return nullptr;
     }
     archive_read_support_filter_all(reader);
     archive_read_support_format_all(reader);
@@ -162,8 +164,16 @@ int Extractor::Count()
                        "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__,
                        ErrorText(reader));
         archive_read_free(reader);
-        return -1;
+        return nullptr;
     }
+    return reader;
+}
+
+int Extractor::Count()
+{
+    archive* reader = OpenForListing();
+    if (reader == nullptr)
+        return -1;
 
     // Stops quietly at the end or at the first damage: a damaged archive
     // counts what comes before it, and Extract reports the damage itself.
@@ -179,25 +189,9 @@ int Extractor::Count()
 
 int Extractor::List()
 {
-    if (destination.empty() || archivePath.empty()) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] extractor(%d): Invalid argument\n", __LINE__);
+    archive* reader = OpenForListing();
+    if (reader == nullptr)
         return -1;
-    }
-    archive* reader = archive_read_new();
-    if (reader == nullptr) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] extractor(%d): Allocate archive failed\n", __LINE__);
-        return -1;
-    }
-    archive_read_support_filter_all(reader);
-    archive_read_support_format_all(reader);
-
-    if (archive_read_open_filename(reader, archivePath.c_str_utf8(), kBlockSize) != ARCHIVE_OK) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__,
-                       ErrorText(reader));
-        archive_read_free(reader);
-        return -1;
-    }
 
     archive_entry* entry = nullptr;
     while (archive_read_next_header(reader, &entry) == ARCHIVE_OK) {
