@@ -1441,7 +1441,7 @@
     </message>
     <message>
         <source>Tray Icon</source>
-        <translation>Icône de notification</translation>
+        <translation>Icône de la zone de notification</translation>
     </message>
     <message>
         <source>Sharing and Versions</source>

@@ -1417,7 +1417,7 @@
     </message>
     <message>
         <source>The tray icon shows the sync status at a glance.</source>
-        <translation>Ikona w obszarze powiadomień pokazuje stan synchronizacji w mgnieniu oka.</translation>
+        <translation>Ikona w obszarze powiadomień pozwala jednym spojrzeniem sprawdzić stan synchronizacji.</translation>
     </message>
     <message>
         <source>Setup Mode</source>

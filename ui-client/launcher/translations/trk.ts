@@ -2073,7 +2073,7 @@
     </message>
     <message>
         <source>The selected folder is not empty. Its files will be uploaded to the server.</source>
-        <translation>Seçilen klasör boş değil. İçindeki dosyalar sunucuya yüklenecek.</translation>
+        <translation>Seçilen klasör boş değil. İçindeki dosyalar sunucuya karşıya yüklenecek.</translation>
     </message>
     <message>
         <source>Download changes from the server only</source>
