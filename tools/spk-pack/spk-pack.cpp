@@ -6,7 +6,8 @@
 // The same folder always gives the same bytes: entries are sorted, and every
 // entry gets fixed times, owner 0/0 ("root"/"root") and normalised permission
 // bits (0755 for folders, links and files with any execute bit, else 0644).
-// The gzip stream carries no time stamp.
+// The gzip stream carries no time stamp, and zip's local times are taken in
+// UTC whatever the packer's time zone.
 #include <archive.h>
 #include <archive_entry.h>
 
@@ -15,10 +16,12 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <cerrno>
 #include <clocale>
 #include <cstdio>
 #include <cstring>
+#include <ctime>
 #include <filesystem>
 #include <string>
 #include <system_error>
@@ -294,6 +297,11 @@ int main(int argc, char** argv)
         fprintf(stderr, "spk-pack: no UTF-8 locale (C.UTF-8) available\n");
         return 1;
     }
+    // zip stores each entry's time as a local date and time, converted
+    // through the time zone: without this, packers in Tokyo and in London
+    // would write different bytes for the same folder.
+    setenv("TZ", "UTC0", 1);
+    tzset();
     std::string format = "tar.gz";
     std::vector<std::string> args;
     for (int i = 1; i < argc; ++i) {

@@ -1,6 +1,8 @@
 #include "nimbulo-service.h"
 
+#include <climits>
 #include <cstdio>
+#include <cstdlib>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -34,6 +36,14 @@ void ReadVersionFile(const ustring& path, ustring& major, ustring& minor, ustrin
             *fields[i] = ToUstring(settings.value(keys[i]).toString());
     }
     settings.endGroup();
+}
+
+// A build text as the upgrade decision reads it: the atoi rule, kept inside
+// the int range.
+int BuildNumber(const ustring& text)
+{
+    long value = text.empty() ? 0 : strtol(text.c_str(), nullptr, 10);
+    return value > INT_MAX ? INT_MAX : value < INT_MIN ? INT_MIN : static_cast<int>(value);
 }
 
 // Backup names: A_tmp for index 0, then A_tmp1 ... A_tmp9, so
@@ -169,6 +179,17 @@ int Service::PrepareUserEnv()
     // Lower names too: they may hold leftovers of earlier runs.
     for (int i = 0; i <= index; ++i)
         FSRemove(GetAppBackupDir(appPath, i), false);
+
+    // A package whose INFO names an older build than the bundle's installs
+    // again at every start; say so once per installation.
+    ustring major, minor, build, overlay;
+    ReadVersionFile(appPath + "/Contents/Resources/INFO", major, minor, build, overlay);
+    if (BuildNumber(build) < BuildNumber(targetBuildVersion)) {
+        Logger::LogMsg(Logger::LEVEL_WARNING, kComponent,
+                       "[WARNING] nimbulo-service(%d): installed build %d is still older than the bundle's build %d: "
+                       "the package's INFO does not match the bundle's, so every start installs it again\n",
+                       __LINE__, BuildNumber(build), BuildNumber(targetBuildVersion));
+    }
     return 0;
 }
 
