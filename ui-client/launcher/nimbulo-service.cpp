@@ -2,7 +2,6 @@
 
 #include <cstdio>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QSettings>
 #include <QString>
@@ -11,6 +10,7 @@
 #include "extractor.h"
 #include "file-op.h"
 #include "log.h"
+#include "platform.h"
 
 namespace {
 
@@ -19,6 +19,12 @@ const char* const kComponent = "service_debug";
 ustring ToUstring(const QString& s)
 {
     return ustring(s.toUtf8().constData());
+}
+
+// The folder of the running executable, Contents/MacOS in the bundle.
+QString ExecutableFolder()
+{
+    return QDir::cleanPath(QString::fromUtf8(PlatformExecutablePath().c_str_utf8()) + "/..");
 }
 
 // The four keys of an INFO file's "Version" group, in the order they are
@@ -70,12 +76,12 @@ void Service::SetTimeout(int value)
 
 ustring Service::GetUserInstallPath()
 {
-    return ToUstring(QDir::homePath());
+    return ToUstring(QDir::cleanPath(QString::fromUtf8(PlatformHomeDir().c_str_utf8())));
 }
 
 ustring Service::GetRootNimbuloInstallPath()
 {
-    return ToUstring(QDir::cleanPath(QCoreApplication::applicationDirPath() + "/" + "../.."));
+    return ToUstring(QDir::cleanPath(ExecutableFolder() + "/" + "../.."));
 }
 
 ustring Service::GetRootNimbuloResourceInstallPath()
@@ -256,8 +262,8 @@ int Service::FSCopyPath(const ustring& src, const ustring& dst)
 
 PackageInfo::PackageInfo()
 {
-    ustring appDir = ToUstring(QCoreApplication::applicationDirPath());
-    ustring home = ToUstring(QDir::homePath());
+    ustring appDir = ToUstring(ExecutableFolder());
+    ustring home = Service::GetUserInstallPath();
     imagesPath = appDir + "/images";
     logRootPath = home + "/.Nimbulo_log";
     debugFlagPath = appDir + "/log/launcher.debug";
