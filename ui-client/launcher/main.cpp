@@ -43,6 +43,18 @@ bool FindPlace(ustring& executable)
     return true;
 }
 
+// Qt ends the process with an abort when it finds no platform plug-in, as in
+// a bundle whose plug-in folder cannot be read.
+bool PluginsReadable(const QString& pluginPath)
+{
+    if (!QDir(pluginPath + "/platforms").entryList(QDir::Files | QDir::Readable).isEmpty())
+        return true;
+    Logger::LogMsg(Logger::LEVEL_ERROR, "launcher_debug",
+                   "[ERROR] main(%d): no readable Qt platform plug-in in '%s/platforms', nothing done\n", __LINE__,
+                   pluginPath.toUtf8().constData());
+    return false;
+}
+
 // Without a display Qt's default platform ends the process; the offscreen
 // one lets the run install and start the client without its dialog. A
 // platform the user chose is left alone. true when offscreen was chosen,
@@ -78,6 +90,8 @@ int main(int argc, char** argv)
     QCoreApplication::setLibraryPaths(QStringList(pluginPath));
     printf("lib path = '%s'\n", pluginPath.toUtf8().constData());
     fflush(stdout);
+    if (!PluginsReadable(pluginPath))
+        return 0;
 
     ustring noDisplay;
     const bool offscreen = ChooseOffscreen(noDisplay);
