@@ -1,6 +1,9 @@
 #include "nimbulo-service.h"
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
+#include <unistd.h>
 
 #include <QDir>
 #include <QSettings>
@@ -107,6 +110,13 @@ ustring Service::GetUserNimbuloDataInstallPath()
 void Service::LoadTargetVersion()
 {
     ustring path = GetRootNimbuloResourceInstallPath() + "/" + "INFO";
+    // Unreadable, the file would read as empty and the bundle as no newer
+    // than any installation.
+    if (access(path.c_str(), R_OK) != 0) {
+        int err = errno;
+        Logger::LogMsg(Logger::LEVEL_WARNING, kComponent, "[WARNING] nimbulo-service(%d): cannot read '%s': %s\n",
+                       __LINE__, path.c_str(), strerror(err));
+    }
     ReadVersionFile(path, targetMajorVersion, targetMinorVersion, targetBuildVersion, targetIconOverlayVersion);
     Logger::LogMsg(Logger::LEVEL_INFO, kComponent, "[INFO] nimbulo-service(%d): target_version = (%s, %s, %s, %s)\n",
                    __LINE__, targetMajorVersion.c_str(), targetMinorVersion.c_str(), targetBuildVersion.c_str(),
@@ -166,6 +176,10 @@ int Service::PrepareUserEnv()
                            "[ERROR] nimbulo-service(%d): Failed to extract package, and no old installation to "
                            "rollback\n",
                            __LINE__);
+            // A package that could not even be opened leaves the folder made
+            // for it empty; an empty folder is no installation. What an
+            // extraction that went further left stays.
+            rmdir(appPath.c_str());
         }
         return -1;
     }
