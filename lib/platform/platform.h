@@ -4,6 +4,8 @@
 //   platform_mac.cpp    CoreServices, the Launch Services tool, the desktop's
 //                       open service.
 //   platform_linux.cpp  the same promises from POSIX and /proc.
+//   platform_*_start.cpp where the executable is, whether a display is there.
+//   platform_home.cpp   the home folder (POSIX, both platforms).
 #ifndef NIMBULO_PLATFORM_H
 #define NIMBULO_PLATFORM_H
 
@@ -37,6 +39,21 @@ ustring PlatformRegistrationTool();
 // Opens the application bundle, which starts its application unless that
 // application already runs. true when the request was accepted.
 bool PlatformOpenBundle(const ustring& bundle);
+
+// Absolute path of the running executable, the one answer from which the
+// bundle and everything in it is found. Linux: the kernel's record, so links
+// and PATH look-ups are resolved; macOS: the main bundle's executable.
+// Empty when the system cannot tell.
+ustring PlatformExecutablePath();
+
+// The user's home folder: HOME when it is set and absolute; otherwise the
+// real user's folder in the password database, when that folder exists.
+// Empty when neither is usable.
+ustring PlatformHomeDir();
+
+// Whether Qt's default platform can reach a display. When it cannot, reason
+// says why, in a few words for the log.
+bool PlatformDisplayReachable(ustring& reason);
 
 // Linux only (the macOS build neither has nor needs it): the name-matching
 // step of PlatformResolvePath, kept free of the disk so it can be tested.

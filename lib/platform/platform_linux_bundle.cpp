@@ -10,7 +10,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
-#include <pwd.h>
 #include <spawn.h>
 #include <string>
 #include <sys/types.h>
@@ -31,11 +30,7 @@ ustring& RegistrationTool()
 
 std::string HomeFolder()
 {
-    const char* home = getenv("HOME");
-    if (home != nullptr && home[0] != '\0')
-        return home;
-    struct passwd* pw = getpwuid(getuid());
-    return pw != nullptr && pw->pw_dir != nullptr ? pw->pw_dir : "";
+    return PlatformHomeDir().c_str();
 }
 
 bool ReadFile(const std::string& path, std::string& text)
@@ -149,6 +144,11 @@ bool StartDetached(const std::string& executable)
     // Everything the children use is prepared before fork: after it only
     // async-signal-safe calls are allowed, the caller having threads.
     char* const argv[] = {const_cast<char*>(executable.c_str()), nullptr};
+    // The launcher ignores SIGPIPE for itself; the client starts with the
+    // usual disposition.
+    struct sigaction defaultAction = {};
+    defaultAction.sa_handler = SIG_DFL;
+    sigemptyset(&defaultAction.sa_mask);
 
     pid_t child = fork();
     if (child < 0) {
@@ -178,6 +178,7 @@ bool StartDetached(const std::string& executable)
         // the client's business.
         close_range(3, ~0U, CLOSE_RANGE_CLOEXEC);
 #endif
+        sigaction(SIGPIPE, &defaultAction, nullptr);
         sigset_t none;
         sigemptyset(&none);
         sigprocmask(SIG_SETMASK, &none, nullptr);
@@ -219,8 +220,18 @@ int PlatformForgetBundle(const ustring& bundle)
 
     char* const argv[] = {const_cast<char*>(tool.c_str()), const_cast<char*>("-u"),
                           const_cast<char*>(bundle.c_str()), nullptr};
+    // Not the launcher's own SIGPIPE disposition: the tool gets the default.
+    posix_spawnattr_t attr;
+    posix_spawnattr_init(&attr);
+    sigset_t pipeOnly;
+    sigemptyset(&pipeOnly);
+    sigaddset(&pipeOnly, SIGPIPE);
+    posix_spawnattr_setsigdefault(&attr, &pipeOnly);
+    posix_spawnattr_setflags(&attr, POSIX_SPAWN_SETSIGDEF);
     pid_t pid = 0;
-    if (posix_spawn(&pid, tool.c_str(), nullptr, nullptr, argv, environ) != 0)
+    int spawned = posix_spawn(&pid, tool.c_str(), nullptr, &attr, argv, environ);
+    posix_spawnattr_destroy(&attr);
+    if (spawned != 0)
         return -2;
     int status = 0;
     pid_t done;

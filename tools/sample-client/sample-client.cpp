@@ -207,6 +207,12 @@ int main(int argc, char** argv)
     sigaction(SIGINT, &sa, nullptr);
     sigaction(SIGHUP, &sa, nullptr);
 
+#ifdef Q_OS_LINUX
+    // Like a real client started where no display is (a remote shell, a
+    // session not up yet), it carries on unseen rather than ending.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "xcb;offscreen");
+#endif
     QApplication app(argc, argv);
     SampleClient* client = new SampleClient;
     if (client->WritePidFile() != 0) {

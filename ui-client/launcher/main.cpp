@@ -1,5 +1,7 @@
 #include <clocale>
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -10,9 +12,62 @@
 #include "launcher.h"
 #include "log.h"
 #include "nimbulo-service.h"
+#include "platform.h"
 #include "qtsingleapplication.h"
 #include "str-table.h"
 #include "ustring.h"
+
+namespace {
+
+// Where the run finds itself: the executable, hence the bundle, and the home
+// folder. When either is unknown nothing can be installed, and the one line
+// saying so goes to standard error (the logger's sink until it has a file).
+bool FindPlace(ustring& executable)
+{
+    executable = PlatformExecutablePath();
+    if (executable.empty()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, "launcher_debug",
+                       "[ERROR] main(%d): cannot tell where the running executable is, nothing done\n", __LINE__);
+        return false;
+    }
+    const ustring home = PlatformHomeDir();
+    if (home.empty()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, "launcher_debug",
+                       "[ERROR] main(%d): no home folder: HOME is not an absolute path and the password database "
+                       "names no existing folder, nothing done\n",
+                       __LINE__);
+        return false;
+    }
+    // Qt and the client read HOME themselves; they must find the same folder.
+    setenv("HOME", home.c_str(), 1);
+    return true;
+}
+
+// Qt ends the process with an abort when it finds no platform plug-in, as in
+// a bundle whose plug-in folder cannot be read.
+bool PluginsReadable(const QString& pluginPath)
+{
+    if (!QDir(pluginPath + "/platforms").entryList(QDir::Files | QDir::Readable).isEmpty())
+        return true;
+    Logger::LogMsg(Logger::LEVEL_ERROR, "launcher_debug",
+                   "[ERROR] main(%d): no readable Qt platform plug-in in '%s/platforms', nothing done\n", __LINE__,
+                   pluginPath.toUtf8().constData());
+    return false;
+}
+
+// Without a display Qt's default platform ends the process; the offscreen
+// one lets the run install and start the client without its dialog. A
+// platform the user chose is left alone. true when offscreen was chosen,
+// with the reason in noDisplay.
+bool ChooseOffscreen(ustring& noDisplay)
+{
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || PlatformDisplayReachable(noDisplay))
+        return false;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return true;
+}
+
+}  // namespace
 
 int main(int argc, char** argv)
 {
@@ -20,15 +75,30 @@ int main(int argc, char** argv)
     // Before any catalogue is loaded by its ":/" path.
     qInitResources_texts();
 
+    // A reader of standard output or error that has gone away costs only the
+    // text meant for it, never the run.
+    signal(SIGPIPE, SIG_IGN);
+
+    ustring executable;
+    if (!FindPlace(executable))
+        return 0;
+
     // Qt must find its plug-ins inside the bundle, so its default search list
     // is replaced before the application object exists:
     // .../Nimbulo.app/Contents/MacOS/Nimbulo -> .../Nimbulo.app/Contents/Frameworks/plugins
-    QString pluginPath = QDir::cleanPath(QString::fromUtf8(argc > 0 && argv[0] ? argv[0] : "") + "/../../Frameworks/plugins");
+    QString pluginPath = QDir::cleanPath(QString::fromUtf8(executable.c_str_utf8()) + "/../../Frameworks/plugins");
     QCoreApplication::setLibraryPaths(QStringList(pluginPath));
     printf("lib path = '%s'\n", pluginPath.toUtf8().constData());
     fflush(stdout);
+    if (!PluginsReadable(pluginPath))
+        return 0;
 
+    ustring noDisplay;
+    const bool offscreen = ChooseOffscreen(noDisplay);
     QtSingleApplication app(argc, argv, true);
+    // The choice was for this process only; the client makes its own.
+    if (offscreen)
+        qunsetenv("QT_QPA_PLATFORM");
 
     // Before the single-instance check, so that a refused start is logged.
     ustring debugFile = Service::GetRootNimbuloInstallPath() + "/log/launcher.debug";
@@ -40,6 +110,9 @@ int main(int argc, char** argv)
         Logger::LogMsg(Logger::LEVEL_DEBUG, "launcher_debug", "[DEBUG] main(%d): app has already launched, return\n", __LINE__);
         return 0;
     }
+    if (offscreen)
+        Logger::LogMsg(Logger::LEVEL_NOTE, "launcher_debug", "[NOTE] main(%d): no dialog can be shown, %s\n",
+                       __LINE__, noDisplay.c_str());
 
     QTranslator translator;
     InstallCatalogue(translator);

@@ -1,10 +1,12 @@
 #include "nimbulo-service.h"
 
+#include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
+#include <unistd.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QSettings>
 #include <QString>
@@ -13,6 +15,7 @@
 #include "extractor.h"
 #include "file-op.h"
 #include "log.h"
+#include "platform.h"
 
 namespace {
 
@@ -21,6 +24,12 @@ const char* const kComponent = "service_debug";
 ustring ToUstring(const QString& s)
 {
     return ustring(s.toUtf8().constData());
+}
+
+// The folder of the running executable, Contents/MacOS in the bundle.
+QString ExecutableFolder()
+{
+    return QDir::cleanPath(QString::fromUtf8(PlatformExecutablePath().c_str_utf8()) + "/..");
 }
 
 // The four keys of an INFO file's "Version" group, in the order they are
@@ -80,12 +89,12 @@ void Service::SetTimeout(int value)
 
 ustring Service::GetUserInstallPath()
 {
-    return ToUstring(QDir::homePath());
+    return ToUstring(QDir::cleanPath(QString::fromUtf8(PlatformHomeDir().c_str_utf8())));
 }
 
 ustring Service::GetRootNimbuloInstallPath()
 {
-    return ToUstring(QDir::cleanPath(QCoreApplication::applicationDirPath() + "/" + "../.."));
+    return ToUstring(QDir::cleanPath(ExecutableFolder() + "/" + "../.."));
 }
 
 ustring Service::GetRootNimbuloResourceInstallPath()
@@ -111,6 +120,13 @@ ustring Service::GetUserNimbuloDataInstallPath()
 void Service::LoadTargetVersion()
 {
     ustring path = GetRootNimbuloResourceInstallPath() + "/" + "INFO";
+    // Unreadable, the file would read as empty and the bundle as no newer
+    // than any installation.
+    if (access(path.c_str(), R_OK) != 0) {
+        int err = errno;
+        Logger::LogMsg(Logger::LEVEL_WARNING, kComponent, "[WARNING] nimbulo-service(%d): cannot read '%s': %s\n",
+                       __LINE__, path.c_str(), strerror(err));
+    }
     ReadVersionFile(path, targetMajorVersion, targetMinorVersion, targetBuildVersion, targetIconOverlayVersion);
     Logger::LogMsg(Logger::LEVEL_INFO, kComponent, "[INFO] nimbulo-service(%d): target_version = (%s, %s, %s, %s)\n",
                    __LINE__, targetMajorVersion.c_str(), targetMinorVersion.c_str(), targetBuildVersion.c_str(),
@@ -170,6 +186,10 @@ int Service::PrepareUserEnv()
                            "[ERROR] nimbulo-service(%d): Failed to extract package, and no old installation to "
                            "rollback\n",
                            __LINE__);
+            // A package that could not even be opened leaves the folder made
+            // for it empty; an empty folder is no installation. What an
+            // extraction that went further left stays.
+            rmdir(appPath.c_str());
         }
         return -1;
     }
@@ -277,8 +297,8 @@ int Service::FSCopyPath(const ustring& src, const ustring& dst)
 
 PackageInfo::PackageInfo()
 {
-    ustring appDir = ToUstring(QCoreApplication::applicationDirPath());
-    ustring home = ToUstring(QDir::homePath());
+    ustring appDir = ToUstring(ExecutableFolder());
+    ustring home = Service::GetUserInstallPath();
     imagesPath = appDir + "/images";
     logRootPath = home + "/.Nimbulo_log";
     debugFlagPath = appDir + "/log/launcher.debug";

@@ -11,9 +11,6 @@
 #include <sys/types.h>
 #include <unistd.h>
 
-#include <QDir>
-#include <QString>
-
 #include "config.h"
 #include "file-op.h"
 #include "log.h"
@@ -195,7 +192,7 @@ bool MacService::PerUserBinPathExist()
 
 int MacService::LaunchPerUserBin()
 {
-    ustring bundle = ustring(QDir::homePath().toUtf8().constData()) + "/.Nimbulo/Nimbulo.app";
+    ustring bundle = GetUserInstallPath() + "/.Nimbulo/Nimbulo.app";
     if (PlatformForgetBundle(bundle) != 0) {
         Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] mac/mac-service(%d): Cannot unregister bundle, %s",
                        __LINE__, bundle.c_str());
