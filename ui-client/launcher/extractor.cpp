@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <iostream>
 
-#include "launcher.h"
 #include "log.h"
+#include "notify-adapter.h"
 #include "str-table.h"
 
 namespace {
