@@ -33,6 +33,44 @@ const char* ErrorText(int err)
     return text ? text : "";
 }
 
+// Stand-ins, among a PosixError message's arguments, for the failed call's
+// errno and its text; the messages place them in different orders.
+enum ErrnoNumber { kErrno };
+enum ErrnoText { kErrnoText };
+
+template <typename T>
+T ErrnoArg(T value, int)
+{
+    return value;
+}
+int ErrnoArg(ErrnoNumber, int err)
+{
+    return err;
+}
+const char* ErrnoArg(ErrnoText, int err)
+{
+    return ErrorText(err);
+}
+
+// The one place where a failed call's errno becomes a message and a result:
+// logs format at error level with the line and args (kErrno and kErrnoText
+// filled in), leaves errno as the call set it, and gives back code.
+template <typename Result, typename... Args>
+Result PosixError(Result code, int line, const char* format, Args... args)
+{
+    const int err = errno;
+    Logger::LogMsg(Logger::LEVEL_ERROR, Component(), format, line, ErrnoArg(args, err)...);
+    errno = err;
+    return code;
+}
+
+// A write that failed for want of room gives -2, so that callers can tell a
+// full disk from other failures.
+int WriteFailure(int err)
+{
+    return err == ENOSPC || err == EDQUOT ? -2 : -1;
+}
+
 // The text after the last '/'; empty after a trailing '/'; all of it
 // without any '/'.
 ustring LastComponent(ustring const& path)
@@ -114,20 +152,14 @@ int MoveSpecialAcrossVolumes(ustring const& src, ustring const& dst, int type)
     ustring target;
     if (FSReadSymbolicLink(src, target) != 0)
         return -3;
-    if (symlink(target.c_str(), dst.c_str()) != 0) {
-        int err = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, Component(),
-                       "[ERROR] file-op(%d): FSRename: Failed to recreate symbolic link '%s' as '%s'. %s\n",
-                       __LINE__, src.c_str(), dst.c_str(), ErrorText(err));
-        return -3;
-    }
-    if (remove(src.c_str()) != 0) {
-        int err = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, Component(),
-                       "[ERROR] file-op(%d): FSRename: Failed to remove moved symbolic link '%s'. %s\n",
-                       __LINE__, src.c_str(), ErrorText(err));
-        return -3;
-    }
+    if (symlink(target.c_str(), dst.c_str()) != 0)
+        return PosixError(-3, __LINE__,
+                          "[ERROR] file-op(%d): FSRename: Failed to recreate symbolic link '%s' as '%s'. %s\n",
+                          src.c_str(), dst.c_str(), kErrnoText);
+    if (remove(src.c_str()) != 0)
+        return PosixError(-3, __LINE__,
+                          "[ERROR] file-op(%d): FSRename: Failed to remove moved symbolic link '%s'. %s\n",
+                          src.c_str(), kErrnoText);
     return 0;
 }
 
@@ -343,12 +375,8 @@ int FSMKDir(ustring const& path, bool parents)
         return -1;
     }
     int rc = parents ? FSMKDirP(path, nullptr, false, 0xFFFF) : mkdir(path.c_str(), 0777);
-    if (rc != 0) {
-        int err = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, Component(), "[ERROR] file-op(%d): path = %s errno : %s\n", __LINE__,
-                       path.c_str(), ErrorText(err));
-        return -2;
-    }
+    if (rc != 0)
+        return PosixError(-2, __LINE__, "[ERROR] file-op(%d): path = %s errno : %s\n", path.c_str(), kErrnoText);
     return 0;
 }
 
@@ -387,48 +415,36 @@ int FSMKDirFromRoot(ustring const& target, ustring const& root)
 int FSCopy(ustring const& src, ustring const& dst, bool move)
 {
     int in = open(src.c_str(), O_RDONLY | O_CLOEXEC);
-    if (in < 0) {
-        int err = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, Component(), "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n",
-                       __LINE__, src.c_str(), ErrorText(err), err);
-        return -1;
-    }
+    if (in < 0)
+        return PosixError(-1, __LINE__, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", src.c_str(), kErrnoText,
+                          kErrno);
     int out = open(dst.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     if (out < 0) {
-        int err = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, Component(), "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n",
-                       __LINE__, dst.c_str(), ErrorText(err), err);
+        PosixError(-1, __LINE__, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", dst.c_str(), kErrnoText,
+                   kErrno);
         close(in);
         return -1;
     }
 
     int result = 0;
     char* buffer = static_cast<char*>(malloc(kCopyChunk));
-    if (buffer == nullptr) {
-        int err = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, Component(), "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n",
-                       __LINE__, static_cast<int>(kCopyChunk), ErrorText(err), err);
-        result = -1;
-    }
+    if (buffer == nullptr)
+        result = PosixError(-1, __LINE__, "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n",
+                            static_cast<int>(kCopyChunk), kErrnoText, kErrno);
     while (buffer != nullptr) {
         ssize_t got = read(in, buffer, kCopyChunk);
         if (got == 0)
             break;
         if (got < 0) {
-            int err = errno;
-            Logger::LogMsg(Logger::LEVEL_ERROR, Component(), "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n",
-                           __LINE__, ErrorText(err), err);
-            result = -1;
+            result = PosixError(-1, __LINE__, "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n", kErrnoText, kErrno);
             break;
         }
         ssize_t written = 0;
         while (written < got) {
             ssize_t n = write(out, buffer + written, static_cast<size_t>(got - written));
             if (n <= 0) {
-                int err = errno;
-                Logger::LogMsg(Logger::LEVEL_ERROR, Component(), "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n",
-                               __LINE__, ErrorText(err), err);
-                result = (err == ENOSPC || err == EDQUOT) ? -2 : -1;
+                result = PosixError(WriteFailure(errno), __LINE__, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n",
+                                    kErrnoText, kErrno);
                 break;
             }
             written += n;
@@ -531,13 +547,9 @@ int FSRemove(ustring const& path, bool flag)
 int FSOpenDir(ustring const& path, int flags, DIR_HANDLE& handle)
 {
     DIR* dir = opendir(path.c_str());
-    if (dir == nullptr) {
-        int err = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, Component(),
-                       "[ERROR] file-op(%d): FSOpenDir: Failed to open directory '%s'. %s\n", __LINE__, path.c_str(),
-                       ErrorText(err));
-        return -1;
-    }
+    if (dir == nullptr)
+        return PosixError(-1, __LINE__, "[ERROR] file-op(%d): FSOpenDir: Failed to open directory '%s'. %s\n",
+                          path.c_str(), kErrnoText);
     handle.dir = dir;
     handle.path = path;
     handle.flags = flags;
@@ -555,11 +567,8 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry)
     if (ent == nullptr) {
         if (errno == 0)
             return 0;
-        int err = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, Component(),
-                       "[ERROR] file-op(%d): FSOpenDir: Failed to read directory '%s'. %s\n", __LINE__,
-                       handle.path.c_str(), ErrorText(err));
-        return -1;
+        return PosixError(-1, __LINE__, "[ERROR] file-op(%d): FSOpenDir: Failed to read directory '%s'. %s\n",
+                          handle.path.c_str(), kErrnoText);
     }
 
     ustring name(ent->d_name);
@@ -600,12 +609,8 @@ int FSMktemp(ustring const& dir, ustring& created)
     char pattern[kPathBuffer];
     memcpy(pattern, buffer, sizeof(pattern));
     int fd = mkstemp(buffer);
-    if (fd < 0) {
-        int err = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, Component(), "[ERROR] file-op(%d): mkstemp(%s): %s\n", __LINE__, pattern,
-                       ErrorText(err));
-        return -1;
-    }
+    if (fd < 0)
+        return PosixError(-1, __LINE__, "[ERROR] file-op(%d): mkstemp(%s): %s\n", pattern, kErrnoText);
     close(fd);
     created = buffer;
     chmod(buffer, 0644);
@@ -650,26 +655,20 @@ bool hasFilePermission(ustring const& path, int mode)
 bool isMountPoint(ustring const& path)
 {
     ustring typeName;
-    if (PlatformFileSystemTypeName(path, typeName) != 0) {
-        int err = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, Component(),
-                       "[ERROR] file-op(%d): isMountPoint: Failed to get file system info '%s'. %s\n", __LINE__,
-                       path.c_str(), ErrorText(err));
-        return false;
-    }
+    if (PlatformFileSystemTypeName(path, typeName) != 0)
+        return PosixError(false, __LINE__,
+                          "[ERROR] file-op(%d): isMountPoint: Failed to get file system info '%s'. %s\n",
+                          path.c_str(), kErrnoText);
     return typeName == ustring("nfs") || typeName == ustring("smbfs") || typeName == ustring("afpfs");
 }
 
 bool IsMSDOS(ustring const& path)
 {
     ustring typeName;
-    if (PlatformFileSystemTypeName(path, typeName) != 0) {
-        int err = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, Component(),
-                       "[ERROR] file-op(%d): IsSupportLargeFile: Failed to get file system info '%s'. %s\n", __LINE__,
-                       path.c_str(), ErrorText(err));
-        return false;
-    }
+    if (PlatformFileSystemTypeName(path, typeName) != 0)
+        return PosixError(false, __LINE__,
+                          "[ERROR] file-op(%d): IsSupportLargeFile: Failed to get file system info '%s'. %s\n",
+                          path.c_str(), kErrnoText);
     if (typeName != ustring("msdos"))
         return false;
     Logger::LogMsg(Logger::LEVEL_WARNING, Component(),
@@ -694,11 +693,10 @@ int FSCreateSymbolicLink(ustring const& target, ustring const& link)
 {
     if (symlink(target.c_str(), link.c_str()) == 0)
         return 0;
-    int err = errno;
-    Logger::LogMsg(Logger::LEVEL_ERROR, Component(),
-                   "[ERROR] file-op(%d): FSCreateSymbolicLink: Failed to create symbolic link '%s' -> '%s' (code: %d, msg: %s)\n",
-                   __LINE__, target.c_str(), link.c_str(), err, ErrorText(err));
-    return -1;
+    return PosixError(
+        -1, __LINE__,
+        "[ERROR] file-op(%d): FSCreateSymbolicLink: Failed to create symbolic link '%s' -> '%s' (code: %d, msg: %s)\n",
+        target.c_str(), link.c_str(), kErrno, kErrnoText);
 }
 
 int FSReadSymbolicLink(ustring const& link, ustring& target)
@@ -706,13 +704,10 @@ int FSReadSymbolicLink(ustring const& link, ustring& target)
     char buffer[kLinkBuffer];
     memset(buffer, 0, sizeof(buffer));
     ssize_t n = readlink(link.c_str(), buffer, sizeof(buffer));
-    if (n < 0) {
-        int err = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, Component(),
-                       "[ERROR] file-op(%d): FSReadSymbolicLink: Failed to read symbolic link '%s' (code: %d, msg: %s)\n",
-                       __LINE__, link.c_str(), err, ErrorText(err));
-        return -1;
-    }
+    if (n < 0)
+        return PosixError(-1, __LINE__,
+                          "[ERROR] file-op(%d): FSReadSymbolicLink: Failed to read symbolic link '%s' (code: %d, msg: %s)\n",
+                          link.c_str(), kErrno, kErrnoText);
     // A full buffer may hold a cut target and has no room for the NUL.
     if (static_cast<size_t>(n) >= sizeof(buffer)) {
         Logger::LogMsg(Logger::LEVEL_ERROR, Component(),
@@ -728,9 +723,6 @@ int FSChown(ustring const& path, unsigned int uid, unsigned int gid)
 {
     if (lchown(path.c_str(), uid, gid) == 0)
         return 0;
-    int err = errno;
-    Logger::LogMsg(Logger::LEVEL_ERROR, Component(),
-                   "[ERROR] file-op(%d): FSChown: Failed to chown '%s' (code: %d, msg: %s)\n", __LINE__, path.c_str(),
-                   err, ErrorText(err));
-    return -1;
+    return PosixError(-1, __LINE__, "[ERROR] file-op(%d): FSChown: Failed to chown '%s' (code: %d, msg: %s)\n",
+                      path.c_str(), kErrno, kErrnoText);
 }

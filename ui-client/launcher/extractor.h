@@ -27,9 +27,6 @@ public:
     int List();
     // Copies the current entry's data from ar to aw. 0, or -1.
     int copy_data(archive* ar, archive* aw);
-
-private:
-    archive* OpenForListing();
 };
 
 #endif

@@ -7,6 +7,9 @@
 #include <QString>
 #include <QThread>
 
+// The Launcher forwards the adapter's signals to the dialog.
+#include "notify-adapter.h"
+
 class Service;
 
 // The thread that hosts the Worker: it only runs an event loop, so that
@@ -80,24 +83,6 @@ private:
 
     Worker* worker;
     ProcessingProgressDialog* dialog;
-};
-
-// Turns plain calls from code without Qt objects (the extractor, on the
-// worker thread) into signals that Qt queues to the user-interface thread.
-class Notify_Adapter : public QObject {
-    Q_OBJECT
-public:
-    static Notify_Adapter* GetInstance();
-
-    void UpdateProgress(int total, int current);
-    void UpdateDialogText(QString text);
-
-signals:
-    void sigUpdateProgress(int total, int current);
-    void sigUpdateDialogText(QString text);
-
-private:
-    Notify_Adapter() = default;
 };
 
 #endif
