@@ -27,12 +27,10 @@ TEST(ProgressDialog, TitleTextBarButtonsAndLook)
     ProcessingProgressDialog* d = LauncherTestPeer::DialogOf(&launcher);
     EXPECT_EQ("Nimbulo Pelora", d->windowTitle());
     EXPECT_EQ(kPreparing, d->labelText());
-    EXPECT_TRUE(d->minimum() == 0 && d->maximum() == 100);
     // Title and system menu only: no close, minimise, maximise, help or cancel button.
     EXPECT_EQ(0x3000u, static_cast<unsigned>(d->windowFlags() & ~Qt::WindowType_Mask));
     EXPECT_TRUE(d->findChildren<QPushButton*>().isEmpty());
     EXPECT_EQ(400, d->width());
-    EXPECT_EQ("Arial", d->font().family());
     EXPECT_TRUE(d->styleSheet().contains("background-color: WhiteSmoke"));
     EXPECT_FALSE(d->windowIcon().isNull()) << "no icon from the bundle's resources";
     // Escape or closing the window would end the run before the worker.
@@ -44,7 +42,7 @@ TEST(ProgressDialog, TitleTextBarButtonsAndLook)
 }
 
 // What the bar and the text show in an upgrade that succeeds, one that
-// fails and a run with nothing to install.
+// fails at its last entry and a run with nothing to install.
 TEST(ProgressDialog, EachEntryThenTheReadyTextOnlyAfterSuccess)
 {
     const fs::path resources = Service::GetRootNimbuloResourceInstallPath().c_str();
@@ -54,21 +52,16 @@ TEST(ProgressDialog, EachEntryThenTheReadyTextOnlyAfterSuccess)
         bool installed, goodPackage, shown;
         std::vector<int> bar;
         QString text;
-    } rows[] = {{false, true, true, {33, 66, 100}, kReady}, {false, false, true, {100}, kPreparing},
+    } rows[] = {{false, true, true, {33, 66, 100}, kReady}, {false, false, true, {33, 66, 100}, kPreparing},
                 {true, true, false, {100}, kPreparing}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text.toStdString() + (row.installed ? ", installed" : ""));
         const fs::path home = TempDir(), app = home / ".Nimbulo/Nimbulo.app";
-        if (row.goodPackage)
-            WriteArchive(resources / "package/nimbulo.spk", {{"Contents/Info.plist", "<plist/>"},
-                                                              {"Contents/MacOS/nimbulo-pelora-ui", ""},
-                                                              {"Contents/Resources/INFO", info}});
-        else
-            Put(resources / "package/nimbulo.spk", "not an archive");
-        if (row.installed) {
-            Put(app / "Contents/Resources/INFO", info);
-            Put(app / "Contents/MacOS/nimbulo-pelora-ui", "");
-        }
+        WriteArchive(resources / "package/nimbulo.spk", {{"Contents/Resources/INFO", info}, {"Contents/MacOS/nimbulo-pelora-ui", ""},
+                                                          {row.goodPackage ? "Contents/Info.plist" : "../refused", ""}});
+        for (const char* file : {"Contents/Resources/INFO", "Contents/MacOS/nimbulo-pelora-ui"})
+            if (row.installed)
+                Put(app / file, info);
         qputenv("HOME", home.c_str());
         Launcher launcher;
         ProcessingProgressDialog* d = LauncherTestPeer::DialogOf(&launcher);
@@ -89,7 +82,6 @@ TEST(ProgressDialog, EachEntryThenTheReadyTextOnlyAfterSuccess)
         EXPECT_EQ(row.shown, shown);
         EXPECT_EQ(row.text, d->labelText());
         EXPECT_FALSE(d->isVisible());
-        EXPECT_EQ(row.goodPackage, fs::exists(app / "Contents/Resources/INFO"));
         fs::remove_all(home);
     }
 }

@@ -1,7 +1,6 @@
 // Shared by the dialog and extractor tests: folders, files and archives
 // written here.
-#ifndef NIMBULO_UI_TEST_H
-#define NIMBULO_UI_TEST_H
+#pragma once
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -12,11 +11,7 @@
 
 namespace fs = std::filesystem;
 
-inline std::string TempDir()
-{
-    char pattern[] = "/tmp/nimbulo-ui-test-XXXXXX";
-    return mkdtemp(pattern);
-}
+inline std::string TempDir() { char pattern[] = "/tmp/nimbulo-ui-test-XXXXXX"; return mkdtemp(pattern); }
 
 inline void Put(const fs::path& path, const std::string& text)
 {
@@ -44,5 +39,3 @@ inline void WriteArchive(const fs::path& file, const std::vector<std::pair<std::
     }
     archive_write_free(a);
 }
-
-#endif

@@ -17,7 +17,6 @@ static std::string Hold(QProcess& process, QStringList command, const QString& r
 {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert("XDG_RUNTIME_DIR", runtime);
-    env.insert("QT_QPA_PLATFORM", "offscreen");
     process.setProcessEnvironment(env);
     process.start(command.takeFirst(), command << "--hold");
     process.waitForReadyRead(30000);
@@ -60,10 +59,10 @@ int main(int argc, char** argv)
         QtSingleApplication app(argc, argv, true);
         printf("running=%d\n", app.isRunning() ? 1 : 0);
         fflush(stdout);
-        while (fgetc(stdin) != EOF) {
-        }
+        while (fgetc(stdin) != EOF) continue;
         return 0;
     }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     QCoreApplication app(argc, argv);
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
