@@ -17,30 +17,27 @@ TEST(Extractor, CountsExtractsAndRefusesWithoutLeakingDescriptors)
     WriteArchive(dir + "/cut.tar", {{"one", std::string(1000, '1')}, {"two", std::string(1000, '2')}});
     fs::resize_file(dir + "/cut.tar", 512 + 1024 + 512 + 300);
     using Steps = std::vector<std::pair<int, int>>;
-    const struct {
-        const char* archive;
-        int count, result;
-        Steps progress;
-    } rows[] = {
+    // The archive, what Count and Extract return, the progress reported.
+    const std::tuple<std::string, int, int, Steps> rows[] = {
         {"good.tar", 3, 0, {{3, 1}, {3, 2}, {3, 3}}}, {"dotdot.tar", 2, -1, {{2, 1}}}, {"cut.tar", 2, -1, {{2, 1}}},
         {"empty.tar", 0, -1, {}}, {"missing.tar", -1, -1, {}},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.archive);
+    for (const auto& [archive, count, result, wantProgress] : rows) {
+        SCOPED_TRACE(archive);
         fs::remove_all(dest);
         Extractor x;
-        x.archivePath = (dir + "/" + row.archive).c_str();
+        x.archivePath = (dir + "/" + archive).c_str();
         x.destination = dest.c_str();
         QSignalSpy spy(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateProgress(int, int)));
         const long fds = OpenDescriptors();
-        EXPECT_EQ(row.count, x.Count());
+        EXPECT_EQ(count, x.Count());
         EXPECT_EQ(fds, OpenDescriptors()) << "Count leaks a descriptor";
-        EXPECT_EQ(row.result, x.Extract());
+        EXPECT_EQ(result, x.Extract());
         EXPECT_EQ(fds, OpenDescriptors()) << "Extract leaks a descriptor";
         Steps progress;
         for (const QList<QVariant>& args : spy)
             progress.emplace_back(args.at(0).toInt(), args.at(1).toInt());
-        EXPECT_EQ(row.progress, progress);
+        EXPECT_EQ(wantProgress, progress);
         EXPECT_FALSE(fs::exists(dir + "/" + name + ".txt") || fs::exists("/" + name + ".txt")) << "left the destination";
     }
     fs::remove_all(dir);

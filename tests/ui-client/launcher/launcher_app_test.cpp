@@ -48,19 +48,17 @@ TEST(ProgressDialog, EachEntryThenTheReadyTextOnlyAfterSuccess)
     const fs::path resources = Service::GetRootNimbuloResourceInstallPath().c_str();
     const std::string info = "[Version]\nbuild_version=400\n";
     Put(resources / "INFO", info);
-    const struct {
-        bool installed, goodPackage, shown;
-        std::vector<int> bar;
-        QString text;
-    } rows[] = {{false, true, true, {33, 66, 100}, kReady}, {false, false, true, {33, 66, 100}, kPreparing},
-                {true, true, false, {100}, kPreparing}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.text.toStdString() + (row.installed ? ", installed" : ""));
+    // Installed before, a package that extracts, the dialog shown, the bar's values, the text at the end.
+    const std::tuple<bool, bool, bool, std::vector<int>, QString> rows[] = {
+        {false, true, true, {33, 66, 100}, kReady}, {false, false, true, {33, 66, 100}, kPreparing},
+        {true, true, false, {100}, kPreparing}};
+    for (const auto& [installed, goodPackage, wantShown, wantBar, text] : rows) {
+        SCOPED_TRACE(text.toStdString() + (installed ? ", installed" : ""));
         const fs::path home = TempDir(), app = home / ".Nimbulo/Nimbulo.app";
         WriteArchive(resources / "package/nimbulo.spk", {{"Contents/Resources/INFO", info}, {"Contents/MacOS/nimbulo-pelora-ui", ""},
-                                                          {row.goodPackage ? "Contents/Info.plist" : "../refused", ""}});
+                                                          {goodPackage ? "Contents/Info.plist" : "../refused", ""}});
         for (const char* file : {"Contents/Resources/INFO", "Contents/MacOS/nimbulo-pelora-ui"})
-            if (row.installed)
+            if (installed)
                 Put(app / file, info);
         qputenv("HOME", home.c_str());
         Launcher launcher;
@@ -77,10 +75,10 @@ TEST(ProgressDialog, EachEntryThenTheReadyTextOnlyAfterSuccess)
         launcher.Start();
         EXPECT_EQ(0, QApplication::exec());
         EXPECT_TRUE(LauncherTestPeer::WorkerOf(&launcher)->Thread()->isFinished()) << "the run ended before the worker";
-        EXPECT_EQ(row.bar, bar);
+        EXPECT_EQ(wantBar, bar);
         EXPECT_FALSE(offUiThread) << "the dialog was changed from the worker thread";
-        EXPECT_EQ(row.shown, shown);
-        EXPECT_EQ(row.text, d->labelText());
+        EXPECT_EQ(wantShown, shown);
+        EXPECT_EQ(text, d->labelText());
         EXPECT_FALSE(d->isVisible());
         fs::remove_all(home);
     }
