@@ -28,7 +28,7 @@ static std::string Hold(QProcess& process, QStringList command, const QString& r
 TEST(SingleInstance, RefusesOnlyASecondLiveInstanceOfTheSameExecutable)
 {
     char pattern[] = "/tmp/qtsingleapp-test-XXXXXX";
-    const QString runtime = mkdtemp(pattern), self = QCoreApplication::applicationFilePath(), copy = runtime + "/copy";
+    const QString runtime = mkdtemp(pattern), self = QCoreApplication::applicationFilePath(), copy = runtime + "/" + self.section('/', -1);
     std::filesystem::copy_file(self.toStdString(), copy.toStdString());
     QProcess first, second, other, next;
     EXPECT_EQ("running=0", Hold(first, {self}, runtime));
