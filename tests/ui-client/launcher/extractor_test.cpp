@@ -25,9 +25,7 @@ TEST(Extractor, CountsExtractsAndRefusesWithoutLeakingDescriptors)
     for (const auto& [archive, count, result, wantProgress] : rows) {
         SCOPED_TRACE(archive);
         fs::remove_all(dest);
-        Extractor x;
-        x.archivePath = (dir + "/" + archive).c_str();
-        x.destination = dest.c_str();
+        Extractor x{dest.c_str(), (dir + "/" + archive).c_str()};
         QSignalSpy spy(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateProgress(int, int)));
         const long fds = OpenDescriptors();
         EXPECT_EQ(count, x.Count());

@@ -30,8 +30,7 @@ inline void WriteArchive(const fs::path& file, const std::vector<std::pair<std::
     for (const auto& [path, data] : entries) {
         archive_entry* e = archive_entry_new();
         archive_entry_set_pathname(e, path.c_str());
-        archive_entry_set_filetype(e, path.back() == '/' ? AE_IFDIR : AE_IFREG);
-        archive_entry_set_perm(e, 0755);
+        archive_entry_set_mode(e, (path.back() == '/' ? AE_IFDIR : AE_IFREG) | 0755);
         archive_entry_set_size(e, static_cast<la_int64_t>(data.size()));
         archive_write_header(a, e);
         archive_write_data(a, data.data(), data.size());

@@ -13,9 +13,7 @@
 // Starts command with --hold; its answer, "running=0" or "running=1".
 static std::string Hold(QProcess& process, QStringList command, const QString& runtime)
 {
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("XDG_RUNTIME_DIR", runtime);
-    process.setProcessEnvironment(env);
+    process.setEnvironment(QProcess::systemEnvironment() << "XDG_RUNTIME_DIR=" + runtime);
     process.start(command.takeFirst(), command << "--hold");
     process.waitForReadyRead(30000);
     return process.readLine().trimmed().toStdString();

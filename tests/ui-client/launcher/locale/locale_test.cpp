@@ -23,10 +23,8 @@ TEST(Locale, SystemLocaleChoosesTheLanguageAndItsCatalogue)
     // The launcher's start under LC_ALL=locale and no other locale variable:
     // the code chosen and string 456 from the catalogue installed for it.
     for (const auto& row : rows) {
-        QProcessEnvironment env;
-        env.insert("LC_ALL", row[0]);
         QProcess child;
-        child.setProcessEnvironment(env);
+        child.setEnvironment({QString("LC_ALL=") + row[0]});
         child.start(QCoreApplication::applicationFilePath(), {"--child"});
         child.waitForFinished(30000);
         EXPECT_EQ(row[1], child.readAllStandardOutput().toStdString()) << row[0];
