@@ -6,20 +6,11 @@
 
 #include <sys/time.h>
 
-#include <cstdio>
-#include <cstring>
-#include <set>
-#include <thread>
-#include <vector>
-
-namespace {
-
 using TmpNameGenTest = FolderTest;
 
 // K[0] = 0, K[i] = 1 - i makes every swap of the key schedule a swap with itself: the identity permutation.
 // The second name fails when the permutation restarts, or i and j carry over, between draws.
-TEST_F(TmpNameGenTest, KnownNamesFromTheIdentityPermutation)
-{
+TEST_F(TmpNameGenTest, KnownNamesUniqueNamesAndTheirAlphabet) {
     std::string key(256, '\0');
     for (int i = 1; i < 256; ++i)
         key[i] = static_cast<char>(1 - i);
@@ -28,34 +19,27 @@ TEST_F(TmpNameGenTest, KnownNamesFromTheIdentityPermutation)
     EXPECT_STREQ("0wk73gQn", gen.getTmpName().c_str());
     EXPECT_STREQ("0MM53O8V", gen.getTmpName().c_str());
     EXPECT_EQ(14u, gen.getTmpPath(ustring("/tmp/")).length()) << "'/tmp/' + '/' + 8 characters";
-}
-
-TEST_F(TmpNameGenTest, EightCharactersOfTheAlphabetNeverRepeatedAcrossThreads)
-{
     std::vector<std::string> names[2];
     auto draw = [&names](int t) {
         for (int n = 0; n < 3000; ++n)
             names[t].push_back(TmpNameGen::getInstance().getTmpName().c_str());
     };
     std::thread a(draw, 0), b(draw, 1);
-    a.join();
-    b.join();
+    a.join(), b.join();
     std::set<std::string> all(names[0].begin(), names[0].end());
     all.insert(names[1].begin(), names[1].end());
-    EXPECT_EQ(6000u, all.size());
     std::string used;
     for (const std::string& name : all)
         used += name.size() == 8 ? name : "!";
+    EXPECT_EQ(6000u, all.size());
     EXPECT_EQ(std::string::npos, used.find_first_not_of("0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_"));
     EXPECT_EQ(64u, std::set<char>(used.begin(), used.end()).size()) << "the last characters are reachable too";
 }
 
-// Without a full read from the device the key is "seconds-microseconds" and the bytes after its end are kept.
-TEST_F(TmpNameGenTest, TimeOfDayKeyWhenTheDeviceIsMissingOrShort)
-{
+// Without a full read from the device the key is "seconds-microseconds"; the bytes after its end are kept.
+TEST_F(TmpNameGenTest, TimeOfDayKeyWhenTheDeviceIsMissingOrShort) {
     Write(P("short"), std::string(100, 'Z'));
     for (const std::string& device : {P("missing"), P("short")}) {
-        SCOPED_TRACE(device);
         unsigned char key[257];
         memset(key, 0xa5, sizeof(key));
         key[256] = '\0';
@@ -65,13 +49,9 @@ TEST_F(TmpNameGenTest, TimeOfDayKeyWhenTheDeviceIsMissingOrShort)
         gettimeofday(&after, nullptr);
         unsigned long sec = 0, usec = 0;
         int used = 0;
-        ASSERT_EQ(2, sscanf(reinterpret_cast<char*>(key), "%lu-%lu%n", &sec, &usec, &used));
-        EXPECT_TRUE(key[used] == '\0' && key[used + 1] == (device == P("short") && used + 1 < 100 ? 'Z' : 0xa5));
-        // Both sides read the same clock as the key; a coarser clock could run a second behind it.
-        EXPECT_LE(static_cast<unsigned long>(before.tv_sec), sec);
-        EXPECT_LE(sec, static_cast<unsigned long>(after.tv_sec));
-        EXPECT_LT(usec, 1000000ul);
+        ASSERT_EQ(2, sscanf(reinterpret_cast<char*>(key), "%lu-%lu%n", &sec, &usec, &used)) << device;
+        EXPECT_TRUE(key[used] == '\0' && key[used + 1] == (device == P("short") ? 'Z' : 0xa5)) << device;
+        // The key reads the clock read here on both sides; time() could run a second behind it.
+        EXPECT_TRUE(before.tv_sec <= long(sec) && long(sec) <= after.tv_sec && usec < 1000000) << device << " " << sec;
     }
 }
-
-}  // namespace

@@ -2,102 +2,70 @@
 // copy kept current across every kind of edit.
 #include "ustring.h"
 
-#include <gtest/gtest.h>
+#include "../lib_test.h"
 
-#include <functional>
 #include <stdexcept>
-#include <string>
-
-namespace {
+#include <tuple>
 
 using U16 = unsigned short;
-const size_t npos = ustring::npos;
 using Edit = std::function<void(ustring&)>;
-
+const size_t npos = ustring::npos;
 const U16* units(const char16_t* s) { return reinterpret_cast<const U16*>(s); }
 std::u16string utf16(const ustring& s) { return reinterpret_cast<const char16_t*>(s.c_str_utf16()); }
 
 enum Method { kFind, kRfind, kFirstOf, kFirstNotOf, kLastOf, kLastNotOf };
-
-template <class Needle> size_t Search(Method m, const ustring& t, Needle n, size_t p)
-{
-    switch (m) {
-    case kFind: return t.find(n, p);
-    case kRfind: return t.rfind(n, p);
-    case kFirstOf: return t.find_first_of(n, p);
-    case kFirstNotOf: return t.find_first_not_of(n, p);
-    case kLastOf: return t.find_last_of(n, p);
-    default: return t.find_last_not_of(n, p);
-    }
+template <class Needle> size_t Search(Method m, const ustring& t, Needle n, size_t p) {
+    return m == kFind ? t.find(n, p) : m == kRfind ? t.rfind(n, p) : m == kFirstOf ? t.find_first_of(n, p)
+           : m == kFirstNotOf ? t.find_first_not_of(n, p) : m == kLastOf ? t.find_last_of(n, p) : t.find_last_not_of(n, p);
 }
 
 // Each row runs with every argument kind that can hold its needle (a char only for at most one byte).
-TEST(Ustring, Searches)
-{
+TEST(Ustring, Searches) {
     struct Row { Method m; const char *text, *needle; size_t pos, expected; } const rows[] = {
-        {kFind, "abc", "", 0, 0}, {kFind, "abc", "", 2, 2}, {kFind, "abc", "", 3, npos},
-        {kFind, "abcabc", "bc", 2, 4}, {kFind, "abc", "bcd", 0, npos}, {kFind, "a\xC3\xA9z", "\xC3\xA9", 0, 1},
-        {kRfind, "abc", "", npos, 2}, {kRfind, "abc", "", 1, 1}, {kRfind, "abc", "", 9, 2},
-        {kRfind, "", "", npos, npos}, {kRfind, "abcabc", "bc", npos, 4}, {kRfind, "abcabc", "bc", 3, 1},
-        {kRfind, "abcabc", "bc", 4, 4}, {kRfind, "ab", "abc", npos, npos}, {kRfind, "abc", "a", 0, 0},
+        {kFind, "abc", "", 0, 0}, {kFind, "abc", "", 2, 2}, {kFind, "abc", "", 3, npos}, {kFind, "abcabc", "bc", 2, 4},
+        {kFind, "abc", "bcd", 0, npos}, {kFind, "a\xC3\xA9z", "\xC3\xA9", 0, 1},
+        {kRfind, "abc", "", npos, 2}, {kRfind, "abc", "", 1, 1}, {kRfind, "", "", npos, npos},
+        {kRfind, "abcabc", "bc", npos, 4}, {kRfind, "abcabc", "bc", 3, 1}, {kRfind, "abcabc", "bc", 4, 4},
+        {kRfind, "ab", "abc", npos, npos}, {kRfind, "abc", "a", 0, 0},
         {kFirstOf, "abc", "", 0, npos}, {kFirstOf, "abc", "c", 3, npos}, {kFirstOf, "hello world", "ow", 5, 6},
-        {kFirstOf, "x\xC3\xA9", "\xA9", 0, 2}, {kFirstOf, "abc", "xyz", 0, npos},
-        {kFirstNotOf, "abc", "", 1, 1}, {kFirstNotOf, "abc", "", 3, npos}, {kFirstNotOf, "ab  cd", " b", 1, 4},
-        {kFirstNotOf, "aaaa", "a", 0, npos},
+        {kFirstOf, "x\xC3\xA9", "\xA9", 0, 2}, {kFirstNotOf, "abc", "", 1, 1}, {kFirstNotOf, "abc", "", 3, npos},
+        {kFirstNotOf, "ab  cd", " b", 1, 4}, {kFirstNotOf, "aaaa", "a", 0, npos},
         {kLastOf, "abc", "", npos, npos}, {kLastOf, "/a/b/c", "/", npos, 4}, {kLastOf, "/a/b/c", "/", 3, 2},
         {kLastOf, "/a/b/c", "/", 2, 2}, {kLastOf, "/a/b/c", "/", 1, 0}, {kLastOf, "ab", "b", 50, 1},
         {kLastNotOf, "abc", "", npos, 2}, {kLastNotOf, "abc", "", 1, 1}, {kLastNotOf, "a b c", " c", 3, 2},
-        {kLastNotOf, "   ", " ", npos, npos}, {kLastNotOf, "x  ", " ", npos, 0}, {kLastNotOf, "", "", npos, npos},
+        {kLastNotOf, "   ", " ", npos, npos}, {kLastNotOf, "x  ", " ", npos, 0},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(testing::Message() << "method " << row.m << " on '" << row.text << "' for '" << row.needle
-                                        << "' from " << row.pos);
+        SCOPED_TRACE(testing::Message() << row.m << " '" << row.text << "' '" << row.needle << "' from " << row.pos);
         ustring text(row.text);
         EXPECT_EQ(row.expected, Search(row.m, text, std::string(row.needle), row.pos));
         EXPECT_EQ(row.expected, Search(row.m, text, row.needle, row.pos));
         EXPECT_EQ(row.expected, Search(row.m, text, ustring(row.needle), row.pos));
-        if (row.needle[0] == '\0' || row.needle[1] == '\0') {
-            EXPECT_EQ(row.expected, Search(row.m, text, row.needle[0], row.pos));
-        }
+        EXPECT_TRUE(strlen(row.needle) > 1 || Search(row.m, text, row.needle[0], row.pos) == row.expected) << "char";
     }
 }
 
 // The UTF-16 copy is built before each edit: a copy that an edit leaves stale shows in the last check.
-TEST(Ustring, TrimsAndEditsKeepBothFormsCurrent)
-{
+TEST(Ustring, TrimsAndEditsKeepBothFormsCurrent) {
     const std::string block(1000, 'q');
     struct Row { const char* tag; std::string start; Edit edit; std::string expected; } const rows[] = {
         {"trim", "  a b  ", [](ustring& s) { s.trim(" "); }, "a b"},
         {"ltrim", "\t\n x\r\n", [](ustring& s) { s.ltrim(ustring(" \t\r\n")); }, "x\r\n"},
         {"rtrim", "\t\n x\r\n", [](ustring& s) { s.rtrim(" \t\r\n"); }, "\t\n x"},
         {"trim to nothing", "    ", [](ustring& s) { s.trim(ustring(" ")); }, ""},
-        {"trim, empty set", "  a  ", [](ustring& s) { s.trim(""); }, "  a  "},
-        {"rtrim, nothing to do", "abc", [](ustring& s) { s.rtrim(" "); }, "abc"},
-        {"+= char", "ab", [](ustring& s) { s += 'x'; }, "abx"},
         {"append n bytes", "ab", [](ustring& s) { s.append("yz", 1); }, "aby"},
-        {"append std::string tail", "ab", [](ustring& s) { s.append(std::string("world"), 3, npos); }, "abld"},
-        {"append ustring part", "ab", [](ustring& s) { s.append(ustring("hello"), 1, 3); }, "abell"},
-        {"append n chars", "ab", [](ustring& s) { s.append('+', 2); }, "ab++"},
-        {"assign", "ab", [](ustring& s) { s = "new"; }, "new"},
-        {"assign stops at NUL", "ab", [](ustring& s) { s.assign("a\0b", 3); }, "a"},
         {"replace", "a b", [](ustring& s) { s.replace(' ', '_'); }, "a_b"},
         {"truncate own", "abcabc", [](ustring& s) { s.assign(s.c_str(), 4); }, "abca"},
-        {"clear", "ab", [](ustring& s) { s.clear(); }, ""},
         {"+= unit", "a", [](ustring& s) { s += U16(0xE9); }, "a\xC3\xA9"},
         {"append astral", "a", [](ustring& s) { s.append(units(u"\U0001F600!")); }, "a\xF0\x9F\x98\x80!"},
         {"append units stops at NUL", "a", [](ustring& s) { s.append(units(u"p\0q"), 3); }, "ap"},
         {"assign n units", "a", [](ustring& s) { s.assign(U16(0x4E2D), 2); }, "\xE4\xB8\xAD\xE4\xB8\xAD"},
         {"unit after a byte", "a", [](ustring& s) { s += 'c'; s += U16('d'); }, "acd"},
-        {"append own", "abc", [](ustring& s) { s.append(s.c_str()); }, "abcabc"},
         {"append own n", "abc", [](ustring& s) { s.append(s.c_str(), 2); }, "abcab"},
         {"assign own part", "abca", [](ustring& s) { s.assign(s, 1, 2); }, "bc"},
-        {"+= self", "bc", [](ustring& s) { s += s; }, "bcbc"},
-        {"self-assignment", "bc", [](ustring& s) { s = s; }, "bc"},
         {"append own, buffer moves", block, [](ustring& s) { s.append(s.c_str()); }, block + block},
-        {"append own tail, buffer moves", block, [](ustring& s) { s.append(s, 600, npos); }, block + block.substr(600)},
         {"append own UTF-16", "\xC3\xA9z", [](ustring& s) { s.append(s.c_str_utf16()); }, "\xC3\xA9z\xC3\xA9z"},
-        {"assign own UTF-16 prefix", "\xC3\xA9z\xC3\xA9", [](ustring& s) { s.assign(s.c_str_utf16(), 2); },
-         "\xC3\xA9z"},
+        {"own UTF-16 prefix", "\xC3\xA9z\xC3\xA9", [](ustring& s) { s.assign(s.c_str_utf16(), 2); }, "\xC3\xA9z"},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.tag);
@@ -111,86 +79,53 @@ TEST(Ustring, TrimsAndEditsKeepBothFormsCurrent)
 }
 
 // A buffer keeps its size while it holds n = length + 1 and is at most twice n, else becomes exactly n.
-TEST(Ustring, CapacityRule)
-{
-    struct Row { std::string start; Edit edit; size_t capacity; } const rows[] = {
-        {"a", [](ustring&) {}, 4}, {"abc", [](ustring& s) { s += 'b'; }, 5}, {"abcd", [](ustring& s) { s += 'c'; }, 6},
-        {std::string(99, 'x'), [](ustring& s) { s = "a"; }, 2}, {"abcdef", [](ustring& s) { s = "ab"; }, 7},
-        {"abcdef", [](ustring& s) { s = "a"; }, 2},
+TEST(Ustring, CapacityRule) {
+    struct Row { std::string start, assigned; size_t capacity; } const rows[] = {
+        {"a", "a", 4}, {"abc", "abcb", 5}, {"abcd", "abcde", 6}, {std::string(99, 'x'), "a", 2}, {"abcdef", "ab", 7},
+        {"abcdef", "a", 2},
     };
     for (const Row& row : rows) {
         ustring s(row.start);
-        row.edit(s);
-        EXPECT_EQ(row.capacity, s.capacity()) << row.start;
+        s.c_str_utf16();
+        s = row.assigned.c_str();
+        EXPECT_EQ(row.capacity, s.capacity()) << row.start << " then " << row.assigned;
+        EXPECT_EQ(std::max<size_t>(4, row.start.size() + 1), s.utf16_capacity()) << "kept for reuse";
     }
-    ustring wide(std::string(40, 'w'));
-    wide.c_str_utf16();
-    wide = "ab";
-    EXPECT_EQ(41u, wide.utf16_capacity()) << "a UTF-8 edit keeps the UTF-16 buffer";
-    wide.c_str_utf16();
-    EXPECT_EQ(3u, wide.utf16_capacity());
 }
 
-TEST(Ustring, Compare)
-{
+TEST(Ustring, Compare) {
     struct Row { const char *a, *b; int exact, folded; } const rows[] = {
-        {"abc", "abc", 0, 0}, {"ABC", "abc", -1, 0}, {"Zeta", "alpha", -1, 1}, {"ab", "abc", -1, -1}, {"", "", 0, 0},
-        {"\xC3\x84", "\xC3\xA4", -1, -1},  // non-ASCII letters are not folded
-        {"\xC3\xA9", "z", 1, 1},           // bytes are unsigned
-        {"[", "A", 1, -1},                 // folding goes to lower case
+        {"abc", "abc", 0, 0}, {"ABC", "abc", -1, 0}, {"Zeta", "alpha", -1, 1}, {"ab", "abc", -1, -1},
+        {"\xC3\x84", "\xC3\xA4", -1, -1}, {"\xC3\xA9", "z", 1, 1}, {"[", "A", 1, -1},  // only ASCII folds, to lower
     };
     auto sign = [](int v) { return (v > 0) - (v < 0); };
     for (const Row& row : rows) {
         SCOPED_TRACE(std::string(row.a) + " vs " + row.b);
         ustring a(row.a), b(row.b);
         EXPECT_EQ(row.exact, sign(a.compare(b)));
-        EXPECT_EQ(row.exact, sign(ustring::compare(a, b, false)));
         EXPECT_EQ(row.folded, sign(ustring::compare(a, b, true)));
         EXPECT_EQ(-row.folded, sign(ustring::compare(b, a, true)));
-        EXPECT_EQ(row.exact == 0, a == b);
-        EXPECT_EQ(row.exact < 0, a < b);
-        EXPECT_EQ(row.exact > 0, a > b);
+        EXPECT_EQ(std::make_tuple(row.exact == 0, row.exact < 0, row.exact > 0), std::make_tuple(a == b, a < b, a > b));
     }
     EXPECT_EQ('c' - 'd', ustring("abc").compare(ustring("abd")));
     EXPECT_EQ(0, ustring("abcX").compare(ustring("abcY"), 3));
     EXPECT_GT(0, ustring("abcX").compare(ustring("abcY"), 4));
-    EXPECT_EQ(0, ustring("x").compare(ustring("y"), 0));
 }
 
-TEST(Ustring, SubstrValidityNormalisationAndIcuWarnings)
-{
-    ustring abc("abc");
-    EXPECT_STREQ("bc", abc.substr(1, npos).c_str());
-    EXPECT_STREQ("b", abc.substr(1, 1).c_str());
-    EXPECT_TRUE(abc.substr(3, 5).empty());
-    try {
-        abc.substr(4, 1);
-        ADD_FAILURE() << "substr past the end must throw";
-    } catch (const std::out_of_range& e) {
-        EXPECT_STREQ("substr", e.what());
-    }
-    EXPECT_TRUE(ustring::is_valid(ustring("")));
-    EXPECT_TRUE(ustring::is_valid(ustring("\xF0\x9F\x98\x80")));
-    EXPECT_FALSE(ustring::is_valid(ustring("\xC3\x28")));
-    // One row each way; ICU guarantees the rest.
+TEST(Ustring, SubstrNormalisationAndIcuWarnings) {
+    EXPECT_TRUE(ustring("abc").substr(3, 5).empty());
+    try { ustring("abc").substr(4, 1); ADD_FAILURE() << "no throw"; } catch (const std::out_of_range& e) { EXPECT_STREQ("substr", e.what()); }
     EXPECT_STREQ("\xC3\xA9", ustring("e\xCC\x81").normalize(ustring::nfc).c_str());
-    ustring nfd = ustring::normalize(ustring("\xC3\xA9"), ustring::nfd);
-    EXPECT_STREQ("e\xCC\x81", nfd.c_str());
-    EXPECT_EQ(u"e\u0301", utf16(nfd));
-
+    EXPECT_EQ(u"e\u0301", utf16(ustring::normalize(ustring("\xC3\xA9"), ustring::nfd)));
+    EXPECT_FALSE(ustring::is_valid(ustring("\xC3\x28")));
     ustring bad("\xC3\x28");
-    for (int round = 0; round < 2; ++round) {
-        testing::internal::CaptureStderr();
-        EXPECT_EQ(0, bad.c_str_utf16()[0]);
-        EXPECT_EQ("Warning: u_strFromUTF8: error code 10 at line 921\n", testing::internal::GetCapturedStderr());
-        EXPECT_STREQ("\xC3\x28", bad.c_str()) << "the bytes stay";
-    }
-    ustring lone("ok");
+    const std::string warning = "Warning: u_strFromUTF8: error code 10 at line 921\n";
     testing::internal::CaptureStderr();
-    lone.append(U16(0xD800), 1);
+    EXPECT_TRUE(bad.c_str_utf16()[0] == 0 && bad.c_str_utf16()[0] == 0 && bad == ustring("\xC3\x28"));
+    EXPECT_EQ(warning + warning, testing::internal::GetCapturedStderr()) << "every request warns";
+    bad = "ok";
+    testing::internal::CaptureStderr();
+    bad.append(U16(0xD800), 1);
     EXPECT_EQ("Warning: u_strToUTF8: error code 10 at line 888\n", testing::internal::GetCapturedStderr());
-    EXPECT_EQ(0u, lone.length());
-    EXPECT_EQ(0, lone.c_str_utf16()[0]);
+    EXPECT_TRUE(bad.empty() && bad.c_str_utf16()[0] == 0) << "a lone surrogate empties both forms";
 }
-
-}  // namespace
