@@ -21,7 +21,7 @@ TEST_F(TmpNameGenTest, KnownNamesUniqueNamesAndTheirAlphabet) {
     EXPECT_EQ(14u, gen.getTmpPath(ustring("/tmp/")).length()) << "'/tmp/' + '/' + 8 characters";
     std::vector<std::string> names[2];
     auto draw = [&names](int t) {
-        for (int n = 0; n < 3000; ++n)
+        for (int n = 0; n < 20000; ++n)
             names[t].push_back(TmpNameGen::getInstance().getTmpName().c_str());
     };
     std::thread a(draw, 0), b(draw, 1);
@@ -31,7 +31,7 @@ TEST_F(TmpNameGenTest, KnownNamesUniqueNamesAndTheirAlphabet) {
     std::string used;
     for (const std::string& name : all)
         used += name.size() == 8 ? name : "!";
-    EXPECT_EQ(6000u, all.size());
+    EXPECT_EQ(40000u, all.size());
     EXPECT_EQ(std::string::npos, used.find_first_not_of("0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_"));
     EXPECT_EQ(64u, std::set<char>(used.begin(), used.end()).size()) << "the last characters are reachable too";
 }
