@@ -3,26 +3,18 @@
 // failed, and a check that the test left no descriptor open.
 #pragma once
 
+// gtest.h already brings what the tables use of <cerrno>, <cstring>, <functional>, <set>, <sstream>, <string>,
+// <tuple> and <vector>.
 #include <gtest/gtest.h>
 
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <iterator>
-#include <set>
-#include <string>
 #include <thread>
-#include <vector>
 
 namespace fs = std::filesystem;
 
-inline int OpenDescriptors() {
-    auto it = fs::directory_iterator("/proc/self/fd");
-    return static_cast<int>(std::distance(it, fs::directory_iterator()));
-}
+inline int OpenDescriptors() { return static_cast<int>(std::distance(fs::directory_iterator("/proc/self/fd"), {})); }
 
 class FolderTest : public ::testing::Test {
 protected:
@@ -38,12 +30,14 @@ protected:
             fs::remove_all(dir);
     }
     std::string P(const std::string& rest) const { return dir + "/" + rest; }
-    static void Write(const std::string& path, const std::string& data) { std::ofstream(path, std::ios::binary) << data; }
+    static void Write(const std::string& path, const std::string& data) {
+        fs::create_directories(fs::path(path).parent_path());
+        std::ofstream(path, std::ios::binary) << data;
+    }
     static std::string Read(const std::string& path) {
         std::ifstream in(path, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+        return std::string(std::istreambuf_iterator<char>(in), {});
     }
-    std::string dir;
+    std::string dir;  // canonical: the exact-name test compares with the stored path
     int fds = 0;
 };
-

@@ -8,10 +8,7 @@
 #include "../lib_test.h"
 
 #include <regex>
-#include <sstream>
 #include <sys/mount.h>
-#include <sys/stat.h>
-#include <tuple>
 
 std::string E(const std::string& text) { return "[ERROR] file-op(#): " + text + "\n"; }
 std::string Why(int err) { return strerror(err); }
@@ -26,19 +23,13 @@ protected:
         ASSERT_EQ(0, Logger::Initialize(Logger::TYPE_FILE, ustring(P("log").c_str()), ustring(P("levels").c_str()), 50));
     }
     void TearDown() override { Logger::Destroy(), FolderTest::TearDown(); }
-    std::string NewLog(bool debug = false) {
-        static const std::regex kLine("^[^\\[]*(\\[[A-Z]+\\] file-op\\()\\d+\\)");
-        std::istringstream in(Read(P("log")).substr(seen));
-        seen += in.str().size();
-        std::string out;
-        for (std::string line; std::getline(in, line);)
-            out += debug || line.find("[DEBUG]") == std::string::npos ? std::regex_replace(line, kLine, "$1#)") + "\n" : "";
-        return out;
+    std::string NewLog() {
+        static const std::regex kDebug("[^\n]*\\[DEBUG\\][^\n]*\n"), kStamp("[^\n\\[]*(\\[[A-Z]+\\] file-op\\()\\d+\\)");
+        std::string text = Read(P("log")).substr(seen);
+        seen += text.size();
+        return std::regex_replace(std::regex_replace(text, kDebug, ""), kStamp, "$1#)");
     }
-    void Make(std::initializer_list<const char*> folders, std::initializer_list<const char*> files,
-              std::initializer_list<std::pair<std::string, const char*>> links) {
-        for (const char* folder : folders)
-            fs::create_directories(P(folder));
+    void Make(std::initializer_list<const char*> files, std::initializer_list<std::pair<std::string, const char*>> links) {
         for (const char* file : files)
             Write(P(file), "12345");
         for (const auto& link : links)
@@ -49,13 +40,12 @@ protected:
 
 // A name that differs in case, in Unicode form or by the way it is reached is not the stored name.
 TEST_F(FileOpTest, ExactNameExistenceAndInfoWithoutFollowingTheLastLink) {
-    Make({"real"}, {"real/f", "e\xcc\x81"}, {{"real", "alias"}, {"nowhere", "dangling"}});
+    Make({"real/f", "e\xcc\x81"}, {{"real", "alias"}, {"nowhere", "dangling"}});
     ASSERT_EQ(0, mkfifo(P("fifo").c_str(), 0600));
     struct Row { std::string path; int result, type; bool loose, exact; } const rows[] = {
         {P("real/f"), 0, FILE_TYPE_FILE, true, true}, {P("real"), 0, FILE_TYPE_DIR, true, true},
         {P("alias"), 0, FILE_TYPE_LINK, true, true}, {P("dangling"), 0, FILE_TYPE_LINK, true, true},
-        {P("fifo"), 0, FILE_TYPE_FIFO, true, true}, {"/dev/null", 0, FILE_TYPE_DEVICE, true, true},
-        {P("alias/f"), 0, FILE_TYPE_FILE, true, false}, {P("real/./f"), 0, FILE_TYPE_FILE, true, false},
+        {P("fifo"), 0, FILE_TYPE_FIFO, true, true}, {P("alias/f"), 0, FILE_TYPE_FILE, true, false}, {P("real/./f"), 0, 1, true, false},
         {fs::relative(P("real/f")).string(), 0, FILE_TYPE_FILE, true, false}, {P("real/F"), 0, 0, false, false},
         {P("e\xcc\x81"), 0, FILE_TYPE_FILE, true, true}, {P("\xc3\xa9"), 0, 0, false, false}, {"", 0, 0, false, false},
         {P("real/f/x"), -1, 0, false, false},  // ENOTDIR is a failure, not absence
@@ -66,34 +56,20 @@ TEST_F(FileOpTest, ExactNameExistenceAndInfoWithoutFollowingTheLastLink) {
         EXPECT_EQ(std::make_tuple(row.result, row.type, row.loose, row.exact),
                   std::make_tuple(result, info.type, IsFileExist(row.path.c_str(), false), IsFileExist(row.path.c_str(), true))) << row.path;
     }
-    _FILE_INFO_tag info;
-    EXPECT_EQ(0, GetFileInfo(P("alias/f").c_str(), info));
-    EXPECT_EQ(P("real/f") + " f 5", std::string(info.path.c_str()) + " " + info.name.c_str() + " " + std::to_string(info.size));
     // Where a volume ignores case and Unicode form, the folder's listing (name, inode) decides the stored spelling.
-    const std::vector<PlatformDirEntry> listing = {{"Foo.txt", 11}, {"caf\xc3\xa9", 12}, {"README", 14}, {"readme", 15}, {"x1", 20}, {"x2", 20}};
-    const char* const names[][3] = {{"FOO.TXT", "0", "Foo.txt"}, {"CAFE\xcc\x81", "0", "caf\xc3\xa9"}, {"README", "15", "README"},
-                                    {"ReadMe", "15", "readme"}, {"ReadMe", "0", "README"}, {"Y", "20", "Y"}, {"other", "0", "other"}};
+    const std::vector<PlatformDirEntry> listing = {{"caf\xc3\xa9", 12}, {"README", 14}, {"readme", 15}, {"x1", 20}, {"x2", 20}};
+    const char* const names[][3] = {{"CAFE\xcc\x81", "0", "caf\xc3\xa9"}, {"README", "15", "README"}, {"ReadMe", "15", "readme"}, {"Y", "20", "Y"}};
     for (const auto& row : names)
         EXPECT_STREQ(row[2], PlatformStoredName(listing, row[0], std::stoull(row[1])).c_str()) << row[0] << " " << row[1];
 }
 
-TEST(FilePaths, ParentBaseAndParentFolder) {
-    std::string got;
-    for (const char* path : {"name", "/a", "/a/b/", "a/b"})
-        got += std::string(FSParentPath(path).c_str()) + "|" + FSBaseName(path).c_str() + " ";
-    EXPECT_EQ("/|name /|a /a/b| a|b ", got);
-    EXPECT_TRUE(FSIsParentFolder("/a", "/a") && FSIsParentFolder("/a", "/a/b") && !FSIsParentFolder("/a", "/ab"));
-}
-
 // The rows run in order on one tree; the state they leave is checked at the end.
 TEST_F(FileOpTest, ResultCodesAndMessages) {
-    Make({"real", "tree/a/b"}, {"real/f", "file", "file2", "tree/a/b/f"}, {{"real", "alias"}, {"../../real", "tree/a/up"}, {std::string(1024, 'x'), "long"}});
+    Make({"real/f", "file", "file2", "tree/a/b/f"}, {{"real", "alias"}, {"../../real", "tree/a/up"}, {std::string(1024, 'x'), "long"}});
     Write(P("copy"), "a longer file");
     const std::string no = P("missing"), noDir = "FSMKDir: Create a folder but local file system is not directory '";
-    const std::string gone = "' (code: 2, msg: " + Why(ENOENT) + ")", info = "[INFO] file-op(#): FSMKDirP: path: " + P("file") + " is ";
+    const std::string info = "[INFO] file-op(#): FSMKDirP: path: " + P("file") + " is ";
     mode_t mask = umask(022);
-    DIR_HANDLE handle;
-    ustring text;
     struct Row { const char* tag; std::function<int()> op; int result; std::string log; } const rows[] = {
         {"existing folder", [&] { return FSMKDir(P("real"), false); }, 0, ""},
         {"folder over a file", [&] { return FSMKDir(P("file"), false); }, -1, E(noDir + P("file") + "' (1)")},
@@ -102,13 +78,9 @@ TEST_F(FileOpTest, ResultCodesAndMessages) {
         {"no parent", [&] { return FSMKDir(P("p/q"), false); }, -2, E("path = " + P("p/q") + " errno : " + Why(ENOENT))},
         {"with parents", [&] { return FSMKDir(P("p/q"), true); }, 0, ""},
         {"-p through a file", [&] { return FSMKDirP(P("file/c"), nullptr, false, 0xFFFF); }, -1, info + "symbolic link pointed to folder\n"},
-        {"-p onto a file", [&] { return FSMKDirP(P("file"), nullptr, false, 0xFFFF) - (errno != EEXIST); }, -1,
-         info + "existing file or symbolic link pointed to file\n"},
+        {"-p onto a file", [&] { return FSMKDirP(P("file"), nullptr, false, 0xFFFF) - (errno != EEXIST); }, -1, info + "existing file or symbolic link pointed to file\n"},
         {"-p replacing a file", [&] { return FSMKDirP(P("file2/c"), nullptr, true, 0xFFFF); }, 0, ""},
         {"-p through a link, mode", [&] { return FSMKDirP(P("alias/n/m/"), nullptr, false, 0700); }, 0, ""},
-        {"from root, and onto it", [&] { return FSMKDirFromRoot(P("r/a/b"), dir) - FSMKDirFromRoot(dir, dir); }, 0, ""},
-        {"from a root not above", [&] { return FSMKDirFromRoot(dir + "x/a", dir); }, -1, E("root '" + dir + "' is not a parent folder of target '" + dir + "x/a'")},
-        {"from a longer root", [&] { return FSMKDirFromRoot("/r", "/r/l"); }, -1, E("Giving a root '/r/l' whose length is larger then target's '/r'.")},
         {"copy over a longer file", [&] { return FSCopy(P("real/f"), P("copy"), false); }, 0, ""},
         {"copy from nothing", [&] { return FSCopy(no, P("x"), false); }, -1, E("CopyFile: open(" + no + "): " + Why(ENOENT) + " (2)")},
         {"copy to nowhere", [&] { return FSCopy(P("copy"), P("no/x"), false); }, -1, E("CopyFile: open(" + P("no/x") + "): " + Why(ENOENT) + " (2)")},
@@ -121,25 +93,18 @@ TEST_F(FileOpTest, ResultCodesAndMessages) {
         {"remove, missing or empty", [&] { return FSRemove(no, false) * 10 + FSRemove("", false); }, -1, ""},
         {"remove a link to a folder", [&] { return FSRemove(P("alias"), false); }, 0, ""},
         {"remove a tree holding a link", [&] { return FSRemove(P("tree"), false); }, 0, ""},
-        {"list nothing", [&] { return FSOpenDir(no, 0, handle); }, -1, E("FSOpenDir: Failed to open directory '" + no + "'. " + Why(ENOENT))},
-        {"long link", [&] { return FSReadSymbolicLink(P("long"), text); }, -1, E("FSReadSymbolicLink: path of '" + P("long") + "' is more than 1024")},
-        {"read no link", [&] { return FSReadSymbolicLink(no, text); }, -1, E("FSReadSymbolicLink: Failed to read symbolic link '" + no + gone)},
-        {"link over a file", [&] { return FSCreateSymbolicLink("x", P("file")); }, -1,
-         E("FSCreateSymbolicLink: Failed to create symbolic link 'x' -> '" + P("file") + "' (code: 17, msg: " + Why(EEXIST) + ")")},
-        {"chown nothing", [&] { return FSChown(no, 0, 0); }, -1, E("FSChown: Failed to chown '" + no + gone)},
-        {"temporary file", [&] { return FSMktemp(no, text); }, -1, E("mkstemp(" + no + "/XXXXXX): " + Why(ENOENT))},
-        {"volume of nothing", [&] { return isMountPoint(no) + IsMSDOS(no); }, 0, E("isMountPoint: Failed to get file system info '" + no + "'. " +
-         Why(ENOENT)) + E("IsSupportLargeFile: Failed to get file system info '" + no + "'. " + Why(ENOENT))},
-        {"absence is no denial", [&] { return hasFilePermission(no, R_OK) * 2 + isFileLocked(no, R_OK); }, 2, ""},
-    };
+        {"list nothing", [&] { DIR_HANDLE h; return FSOpenDir(no, 0, h); }, -1, E("FSOpenDir: Failed to open directory '" + no + "'. " + Why(ENOENT))},
+        {"long link", [&] { ustring t; return FSReadSymbolicLink(P("long"), t); }, -1, E("FSReadSymbolicLink: path of '" + P("long") + "' is more than 1024")},
+        {"paths", [&] { return FSParentPath("/a") == ustring("/") && FSBaseName("/a/b/").empty() && FSIsParentFolder("/a", "/a") && !FSIsParentFolder("/a", "/ab"); }, 1, ""},
+        {"absence is no denial", [&] { return hasFilePermission(no, R_OK) * 2 + isFileLocked(no, R_OK); }, 2, ""}};
     for (const Row& row : rows) {
         EXPECT_EQ(row.result, row.op()) << row.tag;
         EXPECT_EQ(row.log, NewLog()) << row.tag;
     }
     EXPECT_EQ(022u, umask(mask));
     EXPECT_EQ(fs::perms::owner_all, fs::status(P("real/n/m")).permissions());
-    EXPECT_TRUE(fs::is_regular_file(P("file")) && fs::is_directory(P("file2/c")) && fs::is_directory(P("p/q")) && fs::is_directory(P("r/a/b")));
-    EXPECT_TRUE(!fs::exists(dir + "x") && Read(P("renamed")) == "12345" && Read(P("real/f")) == "12345") << "links removed, not targets";
+    EXPECT_TRUE(fs::is_regular_file(P("file")) && fs::is_directory(P("file2/c")) && fs::is_directory(P("p/q")));
+    EXPECT_TRUE(Read(P("renamed")) == "12345" && Read(P("real/f")) == "12345") << "links removed, not targets";
     EXPECT_FALSE(fs::exists(P("copy")) || fs::exists(P("moved")) || fs::exists(P("tree")) || fs::is_symlink(P("alias")));
 }
 
@@ -148,12 +113,13 @@ TEST_F(FileOpTest, MovesToAnotherVolumeAndOntoAFullOne) {
     if (mount("tmpfs", P("vol").c_str(), "tmpfs", 0, "size=1m") != 0)
         GTEST_SKIP() << "mounting a tmpfs is not permitted here: " << Why(errno);
     struct Unmount { std::string at; ~Unmount() { umount2(at.c_str(), MNT_DETACH); } } unmount{P("vol")};
-    Make({"tree/a/empty"}, {"tree/a/f"}, {{"a/f", "tree/l"}});
+    Make({"tree/a/f"}, {{"a/f", "tree/l"}});
+    fs::create_directory(P("tree/empty"));
     Write(P("big"), std::string(2 << 20, 'x'));
     EXPECT_EQ(0, FSRename(P("tree"), P("vol/tree"), true));
     EXPECT_EQ(-2, FSCopy(P("big"), P("vol/big"), true));
     EXPECT_EQ(E("CopyFile: write: " + Why(ENOSPC) + " (28)"), NewLog());
     EXPECT_TRUE(fs::exists(P("big")) && fs::exists(P("vol/big"))) << "a failed move keeps both sides";
-    EXPECT_TRUE(!fs::exists(P("tree")) && Read(P("vol/tree/a/f")) == "12345" && fs::is_directory(P("vol/tree/a/empty")));
+    EXPECT_TRUE(!fs::exists(P("tree")) && Read(P("vol/tree/a/f")) == "12345" && fs::is_directory(P("vol/tree/empty")));
     EXPECT_EQ("a/f", fs::read_symlink(P("vol/tree/l")).string());
 }

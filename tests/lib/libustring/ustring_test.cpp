@@ -4,9 +4,6 @@
 
 #include "../lib_test.h"
 
-#include <stdexcept>
-#include <tuple>
-
 using U16 = unsigned short;
 const size_t npos = ustring::npos;
 std::u16string utf16(const ustring& s) { return reinterpret_cast<const char16_t*>(s.c_str_utf16()); }
@@ -21,17 +18,14 @@ template <class Needle> size_t Search(Method m, const ustring& t, Needle n, size
 TEST(Ustring, Searches) {
     struct Row { Method m; const char *text, *needle; size_t pos, expected; } const rows[] = {
         {kFind, "abc", "", 0, 0}, {kFind, "abc", "", 2, 2}, {kFind, "abc", "", 3, npos}, {kFind, "abcabc", "bc", 2, 4},
-        {kFind, "abc", "bcd", 0, npos}, {kFind, "a\xC3\xA9z", "\xC3\xA9", 0, 1}, {kRfind, "abc", "", npos, 2},
-        {kRfind, "abc", "", 1, 1}, {kRfind, "", "", npos, npos}, {kRfind, "abcabc", "bc", npos, 4},
-        {kRfind, "abcabc", "bc", 3, 1}, {kRfind, "abcabc", "bc", 4, 4}, {kRfind, "ab", "abc", npos, npos},
-        {kRfind, "abc", "a", 0, 0}, {kFirstOf, "abc", "", 0, npos}, {kFirstOf, "abc", "c", 3, npos},
-        {kFirstOf, "hello world", "ow", 5, 6}, {kFirstOf, "x\xC3\xA9", "\xA9", 0, 2}, {kFirstNotOf, "abc", "", 1, 1},
-        {kFirstNotOf, "abc", "", 3, npos}, {kFirstNotOf, "ab  cd", " b", 1, 4}, {kFirstNotOf, "aaaa", "a", 0, npos},
-        {kLastOf, "abc", "", npos, npos}, {kLastOf, "/a/b/c", "/", npos, 4}, {kLastOf, "/a/b/c", "/", 3, 2},
-        {kLastOf, "/a/b/c", "/", 2, 2}, {kLastOf, "/a/b/c", "/", 1, 0}, {kLastOf, "ab", "b", 50, 1},
-        {kLastNotOf, "abc", "", npos, 2}, {kLastNotOf, "abc", "", 1, 1}, {kLastNotOf, "a b c", " c", 3, 2},
-        {kLastNotOf, "   ", " ", npos, npos}, {kLastNotOf, "x  ", " ", npos, 0},
-    };
+        {kFind, "abc", "bcd", 0, npos}, {kRfind, "abc", "", npos, 2}, {kRfind, "", "", npos, npos},
+        {kRfind, "abcabc", "bc", npos, 4}, {kRfind, "abcabc", "bc", 3, 1}, {kRfind, "abcabc", "bc", 4, 4},
+        {kRfind, "ab", "abc", npos, npos}, {kFirstOf, "abc", "", 0, npos}, {kFirstOf, "hello world", "ow", 5, 6},
+        {kFirstOf, "x\xC3\xA9", "\xA9", 0, 2}, {kFirstNotOf, "abc", "", 1, 1}, {kFirstNotOf, "abc", "", 3, npos},
+        {kFirstNotOf, "ab  cd", " b", 1, 4}, {kLastOf, "abc", "", npos, npos}, {kLastOf, "/a/b/c", "/", npos, 4},
+        {kLastOf, "/a/b/c", "/", 3, 2}, {kLastOf, "/a/b/c", "/", 2, 2}, {kLastOf, "/a/b/c", "/", 1, 0},
+        {kLastNotOf, "abc", "", npos, 2}, {kLastNotOf, "a b c", " c", 3, 2}, {kLastNotOf, "   ", " ", npos, npos},
+        {kLastNotOf, "x  ", " ", npos, 0}};
     for (const Row& row : rows) {
         ustring t(row.text);
         size_t byChar = strlen(row.needle) > 1 ? row.expected : Search(row.m, t, row.needle[0], row.pos);
@@ -50,19 +44,15 @@ TEST(Ustring, TrimsAndEditsKeepBothFormsCurrent) {
         {"ltrim", "\t\n x\r\n", [](ustring& s) { s.ltrim(ustring(" \t\r\n")); }, "x\r\n"},
         {"ltrim to nothing", " \t ", [](ustring& s) { s.ltrim(" \t"); }, ""},
         {"rtrim to nothing", " \t ", [](ustring& s) { s.rtrim(ustring(" \t")); }, ""},
-        {"append n bytes", "ab", [](ustring& s) { s.append("yz", 1); }, "aby"},
         {"append ustring part", "ab", [](ustring& s) { s.append(ustring("hello"), 1, 3); }, "abell"},
         {"replace", "a b", [](ustring& s) { s.replace(' ', '_'); }, "a_b"},
         {"truncate own", "abcabc", [](ustring& s) { s.assign(s.c_str(), 4); }, "abca"},
         {"+= unit", "a", [](ustring& s) { s += U16(0xE9); }, "a\xC3\xA9"},
-        {"append units stops at NUL", "a", [](ustring& s) { s.append(reinterpret_cast<const U16*>(u"p\0q"), 3); }, "ap"},
         {"unit after a byte", "a", [](ustring& s) { s += 'c'; s += U16('d'); }, "acd"},
         {"append own n", "abc", [](ustring& s) { s.append(s.c_str(), 2); }, "abcab"},
         {"assign own part", "abca", [](ustring& s) { s.assign(s, 1, 2); }, "bc"},
         {"append own, buffer moves", block, [](ustring& s) { s.append(s.c_str()); }, block + block},
-        {"append own UTF-16", "\xC3\xA9z", [](ustring& s) { s.append(s.c_str_utf16()); }, "\xC3\xA9z\xC3\xA9z"},
-        {"own UTF-16 prefix", "\xC3\xA9z\xC3\xA9", [](ustring& s) { s.assign(s.c_str_utf16(), 2); }, "\xC3\xA9z"},
-    };
+        {"append own UTF-16", "\xC3\xA9z", [](ustring& s) { s.append(s.c_str_utf16()); }, "\xC3\xA9z\xC3\xA9z"}};
     for (const Row& row : rows) {
         ustring s(row.start);
         ASSERT_EQ(utf16(ustring(row.start)), utf16(s)) << row.tag;
@@ -79,8 +69,7 @@ TEST(Ustring, CapacityRule) {
         {"a", "a", 4}, {"abc", "abcb", 5}, {"abcd", "abcde", 6}, {std::string(99, 'x'), "a", 2}, {"abcdef", "ab", 7}, {"abcdef", "a", 2}};
     for (const Row& row : rows) {
         ustring s(row.start);
-        s.c_str_utf16();
-        s = row.assigned.c_str();
+        s.c_str_utf16(), s = row.assigned.c_str();
         EXPECT_EQ(std::make_pair(row.capacity, std::max<size_t>(4, row.start.size() + 1)), std::make_pair(s.capacity(), s.utf16_capacity()))
             << row.start << " then " << row.assigned;
     }
@@ -95,15 +84,12 @@ TEST(Ustring, Compare) {
     for (const Row& row : rows) {
         ustring a(row.a), b(row.b);
         EXPECT_EQ(std::make_tuple(row.exact, row.folded, row.exact == 0, row.exact < 0, row.exact > 0),
-                  std::make_tuple(sign(a.compare(b)), sign(ustring::compare(a, b, true)), a == b, a < b, a > b))
-            << row.a << " vs " << row.b;
+                  std::make_tuple(sign(a.compare(b)), sign(ustring::compare(a, b, true)), a == b, a < b, a > b)) << row.a << " vs " << row.b;
     }
-    EXPECT_EQ(0, ustring("abcX").compare(ustring("abcY"), 3));
-    EXPECT_GT(0, ustring("abcX").compare(ustring("abcY"), 4));
+    EXPECT_TRUE(ustring("abX").compare(ustring("abY"), 2) == 0 && ustring("abX").compare(ustring("abY"), 3) < 0);
 }
 
 TEST(Ustring, SubstrNormalisationAndIcuWarnings) {
-    EXPECT_TRUE(ustring("abc").substr(3, 5).empty());
     try { ustring("abc").substr(4, 1); ADD_FAILURE() << "no throw"; } catch (const std::out_of_range& e) { EXPECT_STREQ("substr", e.what()); }
     EXPECT_STREQ("\xC3\xA9", ustring("e\xCC\x81").normalize(ustring::nfc).c_str());
     EXPECT_EQ(u"e\u0301", utf16(ustring::normalize(ustring("\xC3\xA9"), ustring::nfd)));
@@ -113,9 +99,4 @@ TEST(Ustring, SubstrNormalisationAndIcuWarnings) {
     testing::internal::CaptureStderr();
     EXPECT_TRUE(bad.c_str_utf16()[0] == 0 && bad.c_str_utf16()[0] == 0 && bad == ustring("\xC3\x28"));
     EXPECT_EQ(warning + warning, testing::internal::GetCapturedStderr()) << "every request warns";
-    bad = "ok";
-    testing::internal::CaptureStderr();
-    bad.append(U16(0xD800), 1);
-    EXPECT_EQ("Warning: u_strToUTF8: error code 10 at line 888\n", testing::internal::GetCapturedStderr());
-    EXPECT_TRUE(bad.empty() && bad.c_str_utf16()[0] == 0) << "a lone surrogate empties both forms";
 }
