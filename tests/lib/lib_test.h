@@ -38,6 +38,7 @@ protected:
         std::ifstream in(path, std::ios::binary);
         return std::string(std::istreambuf_iterator<char>(in), {});
     }
-    std::string dir;  // canonical: the exact-name test compares with the stored path
+    // dir is canonical: the exact-name test compares with the stored path.
+    std::string dir;
     int fds = 0;
 };
