@@ -48,9 +48,9 @@ TEST_F(FolderTest, ConfigReadsWholeFilesOrNothing) {
 }
 
 const char* const kTags[] = {"[ERROR]", "[WARNING]", "[NOTE]", "[INFO]", "[DEBUG]"};
-std::string Line(int level, const std::string& text) { return std::string(kTags[level - 3]) + " log_test(42): " + text + "\n"; }
+std::string Line(int level, const std::string& text) { return std::string(kTags[level - 3]) + " logger_test(42): " + text + "\n"; }
 void Log(int level, const char* component, const std::string& text) {
-    Logger::LogMsg(Logger::Level(level), ustring(component), "%s log_test(%d): %s\n", kTags[level - 3], 42, text.c_str());
+    Logger::LogMsg(Logger::Level(level), ustring(component), "%s logger_test(%d): %s\n", kTags[level - 3], 42, text.c_str());
 }
 
 // Every line must start with the time stamp "%b %d %H:%M:%S " (C locale); it is cut off here.
