@@ -1,0 +1,44 @@
+// What every table of tests/lib shares: a fresh folder per test, made without
+// libfile so that a fault there cannot hide itself and kept when the test
+// failed, and a check that the test left no descriptor open.
+#pragma once
+
+// gtest.h already brings what the tables use of <cerrno>, <cstring>, <functional>, <set>, <sstream>, <string>,
+// <tuple> and <vector>.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <thread>
+
+namespace fs = std::filesystem;
+
+inline int OpenDescriptors() { return static_cast<int>(std::distance(fs::directory_iterator("/proc/self/fd"), {})); }
+
+class FolderTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        std::string tmpl = (fs::temp_directory_path() / "nimbulo-lib.XXXXXX").string();
+        ASSERT_NE(mkdtemp(&tmpl[0]), nullptr);
+        dir = fs::canonical(tmpl).string();
+        fds = OpenDescriptors();
+    }
+    void TearDown() override {
+        EXPECT_EQ(fds, OpenDescriptors()) << "a descriptor was left open";
+        if (!HasFailure())
+            fs::remove_all(dir);
+    }
+    std::string P(const std::string& rest) const { return dir + "/" + rest; }
+    static void Write(const std::string& path, const std::string& data) {
+        fs::create_directories(fs::path(path).parent_path());
+        std::ofstream(path, std::ios::binary) << data;
+    }
+    static std::string Read(const std::string& path) {
+        std::ifstream in(path, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(in), {});
+    }
+    // dir is canonical: the exact-name test compares with the stored path.
+    std::string dir;
+    int fds = 0;
+};
