@@ -1,13 +1,20 @@
 // The platform layer. Each platform provides these functions; callers hold no
-// platform conditionals of their own.
+// platform conditionals of their own. It knows files, processes and bundles,
+// never the product's own layout: callers pass every path it needs.
 //
-//   platform_mac.cpp    CoreServices, the Launch Services tool, the desktop's
-//                       open service.
-//   platform_linux.cpp  the same promises from POSIX and /proc.
+//   platform_mac.cpp            paths through CoreServices, volume types through
+//                               statfs, processes through libproc.
+//   platform_mac_bundle.cpp     the Launch Services tool and the desktop's open
+//                               service.
+//   platform_linux.cpp          the same promises for paths, volumes and
+//                               processes from POSIX and /proc.
+//   platform_linux_bundle.cpp   bundles without Launch Services: the tool only
+//                               when set, opening as starting the executable.
 #ifndef NIMBULO_PLATFORM_H
 #define NIMBULO_PLATFORM_H
 
 #include <cstdint>
+#include <sys/types.h>
 #include <vector>
 
 #include "ustring.h"
@@ -35,8 +42,25 @@ void PlatformSetRegistrationTool(const ustring& tool);
 ustring PlatformRegistrationTool();
 
 // Opens the application bundle, which starts its application unless that
-// application already runs. true when the request was accepted.
-bool PlatformOpenBundle(const ustring& bundle);
+// application already runs. running names the process the caller believes
+// runs it (0: none known); where the desktop keeps no record of running
+// applications, the application counts as running exactly when that process
+// runs the bundle's executable. true when the request was accepted.
+bool PlatformOpenBundle(const ustring& bundle, pid_t running);
+
+// The largest process id the system hands out.
+long PlatformMaxProcessId();
+
+// The executable file that process pid runs, as an absolute path. On Linux a
+// file removed or replaced since the process started reads as its old path
+// followed by " (deleted)". 0 on success; -1 with errno set otherwise (ESRCH:
+// no such process; EACCES or EPERM: the process may not be examined).
+int PlatformProcessExecutable(pid_t pid, ustring& executable);
+
+// Whether process pid runs the program at executable: the file itself, or
+// the script an interpreter runs. Both sides are compared with symbolic links
+// resolved. false when the process is gone or may not be examined.
+bool PlatformProcessRuns(pid_t pid, const ustring& executable);
 
 // Linux only (the macOS build neither has nor needs it): the name-matching
 // step of PlatformResolvePath, kept free of the disk so it can be tested.

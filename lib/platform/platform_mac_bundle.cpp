@@ -38,7 +38,8 @@ int PlatformForgetBundle(const ustring& bundle)
     return QProcess::execute(tool, QStringList() << "-u" << QString::fromUtf8(bundle.c_str_utf8()));
 }
 
-bool PlatformOpenBundle(const ustring& bundle)
+// Launch Services knows which applications run, so running is not needed.
+bool PlatformOpenBundle(const ustring& bundle, pid_t /*running*/)
 {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromUtf8(bundle.c_str_utf8())));
 }

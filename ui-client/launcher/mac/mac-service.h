@@ -27,7 +27,9 @@ public:
 
     void LoadSourceVerInfo();
     void LoadTargetVerInfo();
-    // Whether A/Contents/MacOS/nimbulo-pelora-ui exists (executable or not).
+    // A/Contents/MacOS/nimbulo-pelora-ui.
+    ustring ClientExecutable() const;
+    // Whether the client executable exists (executable or not).
     bool PerUserBinPathExist();
     // Makes the desktop forget the per-user bundle, then opens it. 0 when
     // the open request was accepted, else -1.
