@@ -171,6 +171,25 @@ void MacService::StopService()
         break;
     }
 
+    // A client that crashed leaves its pid behind, and the system may have
+    // given that id to any other process since: only a process running the
+    // installed client is signalled, never this launcher nor process 1.
+    ustring client = ClientExecutable();
+    if (pid == getpid() || pid == 1 || !PlatformProcessRuns(pid, client)) {
+        ustring runs;
+        if (PlatformProcessExecutable(pid, runs) != 0) {
+            int err = errno;
+            if (err == ESRCH)
+                return;
+            const char* text = strerror(err);
+            runs = ustring("unknown (") + (text != nullptr ? text : "") + ")";
+        }
+        Logger::LogMsg(Logger::LEVEL_NOTE, kComponent,
+                       "[NOTE] mac/mac-service(%d): pid %d runs '%s', not the client '%s', no need to terminate\n",
+                       __LINE__, static_cast<int>(pid), runs.c_str(), client.c_str());
+        return;
+    }
+
     if (kill(pid, SIGTERM) != 0) {
         int err = errno;
         if (err == ESRCH)

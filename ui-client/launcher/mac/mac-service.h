@@ -14,7 +14,8 @@ public:
     static MacService* GetInstace();
 
     // Sends SIGTERM to the client named in R/ui.pid, waits up to five
-    // seconds for it to go, then sends SIGKILL.
+    // seconds for it to go, then sends SIGKILL. A pid that does not run the
+    // client executable is left alone.
     void StopService() override;
     // Stops the client when it is installed, then PrepareUserEnv().
     int HandlePackageUpgrade() override;
