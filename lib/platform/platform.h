@@ -42,11 +42,10 @@ void PlatformSetRegistrationTool(const ustring& tool);
 ustring PlatformRegistrationTool();
 
 // Opens the application bundle, which starts its application unless that
-// application already runs. running names the process the caller believes
-// runs it (0: none known); where the desktop keeps no record of running
-// applications, the application counts as running exactly when that process
-// runs the bundle's executable. true when the request was accepted.
-bool PlatformOpenBundle(const ustring& bundle, pid_t running);
+// application already runs. Where the desktop keeps no record of running
+// applications, it runs when a process of this user runs the bundle's
+// executable. true when the request was accepted.
+bool PlatformOpenBundle(const ustring& bundle);
 
 // The largest process id the system hands out.
 long PlatformMaxProcessId();

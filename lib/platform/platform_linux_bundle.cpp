@@ -8,9 +8,11 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <dirent.h>
 #include <fcntl.h>
 #include <spawn.h>
 #include <string>
+#include <sys/stat.h>
 #include <sys/types.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -68,6 +70,35 @@ std::string BundleExecutableName(const std::string& bundle)
     if (name.empty() || name == "." || name == ".." || name.find('/') != std::string::npos)
         return fallback;
     return name;
+}
+
+// Whether a process of this user, other than this one, runs executable. The
+// whole process table is asked rather than a pid file: a client started a
+// moment ago by another launcher counts once its exec has succeeded, before
+// it has written anything.
+bool UserRuns(const std::string& executable)
+{
+    DIR* proc = opendir("/proc");
+    if (proc == nullptr)
+        return false;
+    const uid_t uid = getuid();
+    const pid_t self = getpid();
+    bool found = false;
+    while (!found) {
+        struct dirent* entry = readdir(proc);
+        if (entry == nullptr)
+            break;
+        char* end = nullptr;
+        long pid = strtol(entry->d_name, &end, 10);
+        if (pid <= 0 || *end != '\0' || pid == self)
+            continue;
+        struct stat st;
+        if (fstatat(dirfd(proc), entry->d_name, &st, 0) != 0 || st.st_uid != uid)
+            continue;
+        found = PlatformProcessRuns(static_cast<pid_t>(pid), executable.c_str());
+    }
+    closedir(proc);
+    return found;
 }
 
 // Starts executable in its own session with standard input from /dev/null,
@@ -165,11 +196,11 @@ int PlatformForgetBundle(const ustring& bundle)
     return WEXITSTATUS(status);
 }
 
-bool PlatformOpenBundle(const ustring& bundle, pid_t running)
+bool PlatformOpenBundle(const ustring& bundle)
 {
     const std::string root = bundle.c_str();
     const std::string executable = root + "/Contents/MacOS/" + BundleExecutableName(root);
-    if (running > 0 && PlatformProcessRuns(running, executable.c_str()))
+    if (UserRuns(executable))
         return true;
     return StartDetached(executable);
 }

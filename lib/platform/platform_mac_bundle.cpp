@@ -38,8 +38,7 @@ int PlatformForgetBundle(const ustring& bundle)
     return QProcess::execute(tool, QStringList() << "-u" << QString::fromUtf8(bundle.c_str_utf8()));
 }
 
-// Launch Services knows which applications run, so running is not needed.
-bool PlatformOpenBundle(const ustring& bundle, pid_t /*running*/)
+bool PlatformOpenBundle(const ustring& bundle)
 {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromUtf8(bundle.c_str_utf8())));
 }

@@ -226,12 +226,7 @@ int MacService::LaunchPerUserBin()
         Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] mac/mac-service(%d): Cannot unregister bundle, %s",
                        __LINE__, bundle.c_str());
     }
-    // A client that runs already is the answer to the open request.
-    ustring unused;
-    pid_t running = 0;
-    if (ReadClientPid(ClientPidFile(), running, unused) != 0)
-        running = 0;
-    return PlatformOpenBundle(bundle, running) ? 0 : -1;
+    return PlatformOpenBundle(bundle) ? 0 : -1;
 }
 
 void MacService::PostUpgrade()
