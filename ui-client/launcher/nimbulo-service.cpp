@@ -292,13 +292,16 @@ int InstallLock::Acquire(int waitSeconds)
     const auto start = std::chrono::steady_clock::now();
     bool told = false;
     int err = fd < 0 ? errno : 0;
-    while (fd >= 0 && flock(fd, LOCK_EX | LOCK_NB) != 0) {
-        err = errno;
-        if (err == EINTR)
+    while (err == 0 && flock(fd, LOCK_EX | LOCK_NB) != 0) {
+        if (errno == EINTR)
             continue;
+        if (errno != EWOULDBLOCK) {
+            err = errno;
+            break;
+        }
         long waited = static_cast<long>(
             std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start).count());
-        if (err == EWOULDBLOCK && waited >= waitSeconds) {
+        if (waited >= waitSeconds) {
             Logger::LogMsg(Logger::LEVEL_WARNING, kComponent,
                            "[WARNING] nimbulo-service(%d): another launcher still holds '%s' after %ld seconds, going "
                            "on without it\n",
@@ -306,8 +309,6 @@ int InstallLock::Acquire(int waitSeconds)
             Release();
             return -1;
         }
-        if (err != EWOULDBLOCK)
-            break;
         if (!told && waited >= kLockPatienceSeconds) {
             Logger::LogMsg(Logger::LEVEL_NOTE, kComponent,
                            "[NOTE] nimbulo-service(%d): waiting for another launcher to finish with '%s'\n", __LINE__,
@@ -316,7 +317,6 @@ int InstallLock::Acquire(int waitSeconds)
         }
         struct timespec pause = {0, 100 * 1000 * 1000};
         nanosleep(&pause, nullptr);
-        err = 0;
     }
     if (err != 0) {
         Logger::LogMsg(Logger::LEVEL_WARNING, kComponent,
