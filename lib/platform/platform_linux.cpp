@@ -418,8 +418,7 @@ bool PlatformProcessRuns(pid_t pid, const ustring& executable)
     std::string exe = running.c_str();
     if (exe == wanted)
         return true;
-    // A program replaced at its path while it ran (an installation over a
-    // running copy) is still that program: the same file name, an older file.
+    // Replaced or removed at its path since it started: still that program, an older copy of it.
     const std::string deleted = " (deleted)";
     const std::string proc = "/proc/" + std::to_string(pid);
     struct stat st;
