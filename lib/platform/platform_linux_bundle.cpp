@@ -139,8 +139,8 @@ bool StartDetached(const std::string& executable)
                 close(devnull);
         }
 #ifdef CLOSE_RANGE_CLOEXEC
-        // The launcher's own descriptors (its log file among them) are not
-        // the client's business.
+        // What this process opens is close-on-exec already; this also keeps
+        // back what it was itself handed above 2 by whoever started it.
         close_range(3, ~0U, CLOSE_RANGE_CLOEXEC);
 #endif
         sigset_t none;
