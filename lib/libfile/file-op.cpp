@@ -608,7 +608,7 @@ int FSMktemp(ustring const& dir, ustring& created)
     // mkstemp may leave a tried name in the buffer when it fails.
     char pattern[kPathBuffer];
     memcpy(pattern, buffer, sizeof(pattern));
-    int fd = mkstemp(buffer);
+    int fd = mkostemp(buffer, O_CLOEXEC);
     if (fd < 0)
         return PosixError(-1, __LINE__, "[ERROR] file-op(%d): mkstemp(%s): %s\n", pattern, kErrnoText);
     close(fd);

@@ -3,8 +3,10 @@
 #include "log.h"
 #include "config.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <syslog.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
@@ -41,6 +43,21 @@ bool IsOwnStream(FILE* fp)
     return fp != nullptr && fp != stdout && fp != stderr;
 }
 
+// The log file for appending. Close-on-exec, so that no program this process
+// starts inherits it and writes into it.
+FILE* OpenForAppend(const char* path)
+{
+    int fd = open(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
+    if (fd < 0) {
+        return nullptr;
+    }
+    FILE* fp = fdopen(fd, "a");
+    if (fp == nullptr) {
+        close(fd);
+    }
+    return fp;
+}
+
 const int kDefaultThreshold = 4;
 const int32_t kRotateSize = 0x100001;  // the first size past 1 MiB
 const size_t kLineBufferSize = 8192;
@@ -61,7 +78,7 @@ int Config::read(const ustring& path)
     if (path.empty()) {
         return -1;
     }
-    FILE* fp = fopen(path.c_str_utf8(), "r");
+    FILE* fp = fopen(path.c_str_utf8(), "re");
     if (fp == nullptr) {
         return -1;
     }
@@ -191,7 +208,7 @@ int Logger::Initialize(Logger::Type type, const ustring& path, const ustring& le
         if (path.empty()) {
             return -1;
         }
-        FILE* fp = fopen(path.c_str_utf8(), "a");
+        FILE* fp = OpenForAppend(path.c_str_utf8());
         if (fp == nullptr) {
             return -1;
         }
@@ -365,7 +382,7 @@ int Logger::Rotate()
     if (rename(path, to) != 0) {
         return -1;
     }
-    FILE* fp = fopen(path, "a");
+    FILE* fp = OpenForAppend(path);
     if (fp == nullptr) {
         return -1;
     }
@@ -385,7 +402,7 @@ void Logger::ReloadLogFile()
     if (IsOwnStream(log_fp)) {
         fclose(log_fp);
     }
-    log_fp = fopen(log_path.c_str_utf8(), "a");
+    log_fp = OpenForAppend(log_path.c_str_utf8());
     if (log_fp != nullptr && log_size != nullptr) {
         *log_size = GetFileSize(log_path);
     }

@@ -77,7 +77,7 @@ int TmpNameGen::unlock()
 
 void TmpNameGen::get_key(unsigned char* key, unsigned long size)
 {
-    FILE* fp = fopen(random_device.c_str_utf8(), "rb");
+    FILE* fp = fopen(random_device.c_str_utf8(), "rbe");
     if (fp != nullptr) {
         size_t got = fread(key, 1, size, fp);
         fclose(fp);

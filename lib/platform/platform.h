@@ -1,15 +1,23 @@
 // The platform layer. Each platform provides these functions; callers hold no
-// platform conditionals of their own.
+// platform conditionals of their own. It knows files, processes and bundles,
+// never the product's own layout: callers pass every path it needs.
 //
-//   platform_mac.cpp    CoreServices, the Launch Services tool, the desktop's
-//                       open service.
-//   platform_linux.cpp  the same promises from POSIX and /proc.
-//   platform_*_start.cpp where the executable is, whether a display is there.
-//   platform_home.cpp   the home folder (POSIX, both platforms).
+//   platform_mac.cpp            paths through CoreServices, volume types through
+//                               statfs, processes through libproc.
+//   platform_mac_bundle.cpp     the Launch Services tool and the desktop's open
+//                               service.
+//   platform_mac_start.cpp      where the executable is; a display is always there.
+//   platform_linux.cpp          the same promises for paths, volumes and
+//                               processes from POSIX and /proc.
+//   platform_linux_bundle.cpp   bundles without Launch Services: the tool only
+//                               when set, opening as starting the executable.
+//   platform_linux_start.cpp    where the executable is, whether a display is there.
+//   platform_home.cpp           the home folder (POSIX, both platforms).
 #ifndef NIMBULO_PLATFORM_H
 #define NIMBULO_PLATFORM_H
 
 #include <cstdint>
+#include <sys/types.h>
 #include <vector>
 
 #include "ustring.h"
@@ -37,7 +45,9 @@ void PlatformSetRegistrationTool(const ustring& tool);
 ustring PlatformRegistrationTool();
 
 // Opens the application bundle, which starts its application unless that
-// application already runs. true when the request was accepted.
+// application already runs. Where the desktop keeps no record of running
+// applications, it runs when a process of this user runs the bundle's
+// executable. true when the request was accepted.
 bool PlatformOpenBundle(const ustring& bundle);
 
 // Absolute path of the running executable, the one answer from which the
@@ -54,6 +64,20 @@ ustring PlatformHomeDir();
 // Whether Qt's default platform can reach a display. When it cannot, reason
 // says why, in a few words for the log.
 bool PlatformDisplayReachable(ustring& reason);
+
+// The largest process id the system hands out.
+long PlatformMaxProcessId();
+
+// The executable file that process pid runs, as an absolute path. On Linux a
+// file removed or replaced since the process started reads as its old path
+// followed by " (deleted)". 0 on success; -1 with errno set otherwise (ESRCH:
+// no such process; EACCES or EPERM: the process may not be examined).
+int PlatformProcessExecutable(pid_t pid, ustring& executable);
+
+// Whether process pid runs the program at executable: the file itself, or
+// the script an interpreter runs. Both sides are compared with symbolic links
+// resolved. false when the process is gone or may not be examined.
+bool PlatformProcessRuns(pid_t pid, const ustring& executable);
 
 // Linux only (the macOS build neither has nor needs it): the name-matching
 // step of PlatformResolvePath, kept free of the disk so it can be tested.

@@ -1,13 +1,15 @@
 // Linux: path resolution and file-system type names from POSIX and the
-// kernel's statfs and inode-flag interfaces.
+// kernel's statfs and inode-flag interfaces; processes through /proc.
 #include "platform.h"
 
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
+#include <limits>
 #include <linux/fs.h>
 #include <linux/magic.h>
 #include <string>
@@ -324,4 +326,126 @@ int PlatformFileSystemTypeName(const ustring& path, ustring& typeName)
     }
     }
     return 0;
+}
+
+namespace {
+
+bool ReadWhole(const std::string& path, std::string& text)
+{
+    FILE* fp = fopen(path.c_str(), "re");
+    if (fp == nullptr)
+        return false;
+    char buf[4096];
+    size_t n;
+    text.clear();
+    while ((n = fread(buf, 1, sizeof(buf), fp)) > 0)
+        text.append(buf, n);
+    fclose(fp);
+    return true;
+}
+
+std::string RealPath(const std::string& path)
+{
+    char buf[PATH_MAX];
+    return realpath(path.c_str(), buf) != nullptr ? buf : "";
+}
+
+// The interpreter a script names on its first line: "#!/bin/sh -e" gives
+// /bin/sh. Empty for a file that is no script.
+std::string ScriptInterpreter(const std::string& script)
+{
+    FILE* fp = fopen(script.c_str(), "re");
+    if (fp == nullptr)
+        return "";
+    char line[256] = {0};
+    bool read = fgets(line, sizeof(line), fp) != nullptr;
+    fclose(fp);
+    if (!read || line[0] != '#' || line[1] != '!')
+        return "";
+    std::string text(line + 2);
+    size_t start = text.find_first_not_of(" \t");
+    if (start == std::string::npos)
+        return "";
+    size_t end = text.find_first_of(" \t\r\n", start);
+    return text.substr(start, end == std::string::npos ? std::string::npos : end - start);
+}
+
+}  // namespace
+
+long PlatformMaxProcessId()
+{
+    // The kernel allocates ids below /proc/sys/kernel/pid_max; where that
+    // cannot be read, only pid_t's own range bounds the value.
+    long limit = std::numeric_limits<pid_t>::max();
+    FILE* fp = fopen("/proc/sys/kernel/pid_max", "re");
+    if (fp == nullptr)
+        return limit;
+    long pidMax = 0;
+    if (fscanf(fp, "%ld", &pidMax) == 1 && pidMax > 1 && pidMax - 1 < limit)
+        limit = pidMax - 1;
+    fclose(fp);
+    return limit;
+}
+
+int PlatformProcessExecutable(pid_t pid, ustring& executable)
+{
+    if (pid <= 0) {
+        errno = ESRCH;
+        return -1;
+    }
+    const std::string link = "/proc/" + std::to_string(pid) + "/exe";
+    std::string target;
+    int err = ReadLink(link, 0, target);
+    if (err != 0) {
+        // A zombie or a kernel thread has no executable; /proc tells them
+        // from a process that is not there by the folder itself.
+        struct stat st;
+        errno = stat(("/proc/" + std::to_string(pid)).c_str(), &st) == 0 ? err : ESRCH;
+        return -1;
+    }
+    executable = target.c_str();
+    return 0;
+}
+
+bool PlatformProcessRuns(pid_t pid, const ustring& executable)
+{
+    std::string wanted = RealPath(executable.c_str());
+    if (wanted.empty())
+        wanted = executable.c_str();
+    ustring running;
+    if (PlatformProcessExecutable(pid, running) != 0)
+        return false;
+    std::string exe = running.c_str();
+    if (exe == wanted)
+        return true;
+    // Replaced or removed at its path since it started: still that program, an older copy of it.
+    const std::string deleted = " (deleted)";
+    const std::string proc = "/proc/" + std::to_string(pid);
+    struct stat st;
+    if (exe.size() > deleted.size() && exe.compare(exe.size() - deleted.size(), deleted.size(), deleted) == 0 &&
+        stat((proc + "/exe").c_str(), &st) == 0 && st.st_nlink == 0)
+        return exe.compare(0, exe.size() - deleted.size(), wanted) == 0;
+
+    // A script: the process runs its interpreter, and the kernel hands it the
+    // script as argv[1], or argv[2] after the option of a "#!" line.
+    const std::string interpreter = ScriptInterpreter(wanted);
+    if (interpreter.empty())
+        return false;
+    const bool viaEnv = interpreter.size() >= 4 && interpreter.compare(interpreter.size() - 4, 4, "/env") == 0;
+    if (!viaEnv && RealPath(interpreter) != exe)
+        return false;
+    std::string cmdline;
+    if (!ReadWhole(proc + "/cmdline", cmdline))
+        return false;
+    std::vector<std::string> args;
+    for (size_t start = 0; start < cmdline.size() && args.size() < 3;) {
+        size_t end = cmdline.find('\0', start);
+        if (end == std::string::npos)
+            end = cmdline.size();
+        args.push_back(cmdline.substr(start, end - start));
+        start = end + 1;
+    }
+    if (args.size() > 1 && RealPath(args[1]) == wanted)
+        return true;
+    return args.size() > 2 && !args[1].empty() && args[1][0] == '-' && RealPath(args[2]) == wanted;
 }

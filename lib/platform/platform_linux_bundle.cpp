@@ -5,18 +5,17 @@
 #include "platform.h"
 
 #include <cerrno>
-#include <climits>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <dirent.h>
 #include <fcntl.h>
 #include <spawn.h>
 #include <string>
+#include <sys/stat.h>
 #include <sys/types.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-#include "config.h"
 
 extern char** environ;
 
@@ -28,14 +27,9 @@ ustring& RegistrationTool()
     return tool;
 }
 
-std::string HomeFolder()
-{
-    return PlatformHomeDir().c_str();
-}
-
 bool ReadFile(const std::string& path, std::string& text)
 {
-    FILE* fp = fopen(path.c_str(), "r");
+    FILE* fp = fopen(path.c_str(), "re");
     if (fp == nullptr)
         return false;
     char buf[4096];
@@ -50,10 +44,13 @@ bool ReadFile(const std::string& path, std::string& text)
 // The executable a bundle names in Contents/Info.plist:
 //   <key>CFBundleExecutable</key> <string>NAME</string>
 // A missing file or key, or a name that would leave Contents/MacOS, gives
-// the client's usual name.
+// the bundle's own name without its extension, as macOS does:
+// /x/Some.app -> Some.
 std::string BundleExecutableName(const std::string& bundle)
 {
-    const std::string fallback = "nimbulo-pelora-ui";
+    std::string fallback = bundle.substr(bundle.rfind('/') + 1);
+    if (fallback.size() > 4 && fallback.compare(fallback.size() - 4, 4, ".app") == 0)
+        fallback.erase(fallback.size() - 4);
     std::string plist;
     if (!ReadFile(bundle + "/Contents/Info.plist", plist))
         return fallback;
@@ -75,60 +72,33 @@ std::string BundleExecutableName(const std::string& bundle)
     return name;
 }
 
-std::string RealPath(const std::string& path)
+// Whether a process of this user, other than this one, runs executable. The
+// whole process table is asked rather than a pid file: a client started a
+// moment ago by another launcher counts once its exec has succeeded, before
+// it has written anything.
+bool UserRuns(const std::string& executable)
 {
-    char buf[PATH_MAX];
-    return realpath(path.c_str(), buf) != nullptr ? buf : "";
-}
-
-// Whether the process pid runs the program at executable: directly, or as
-// the script its interpreter was started on (then /proc/<pid>/exe names the
-// interpreter and the script is argv[1], or argv[2] after a shebang option).
-bool RunsExecutable(pid_t pid, const std::string& executable)
-{
-    std::string wanted = RealPath(executable);
-    if (wanted.empty())
+    DIR* proc = opendir("/proc");
+    if (proc == nullptr)
         return false;
-    std::string proc = "/proc/" + std::to_string(pid);
-    char exe[PATH_MAX];
-    ssize_t n = readlink((proc + "/exe").c_str(), exe, sizeof(exe) - 1);
-    if (n > 0) {
-        exe[n] = '\0';
-        if (wanted == exe)
-            return true;
+    const uid_t uid = getuid();
+    const pid_t self = getpid();
+    bool found = false;
+    while (!found) {
+        struct dirent* entry = readdir(proc);
+        if (entry == nullptr)
+            break;
+        char* end = nullptr;
+        long pid = strtol(entry->d_name, &end, 10);
+        if (pid <= 0 || *end != '\0' || pid == self)
+            continue;
+        struct stat st;
+        if (fstatat(dirfd(proc), entry->d_name, &st, 0) != 0 || st.st_uid != uid)
+            continue;
+        found = PlatformProcessRuns(static_cast<pid_t>(pid), executable.c_str());
     }
-    std::string cmdline;
-    if (!ReadFile(proc + "/cmdline", cmdline))
-        return false;
-    size_t start = 0;
-    for (int arg = 0; arg < 3 && start < cmdline.size(); ++arg) {
-        size_t end = cmdline.find('\0', start);
-        if (end == std::string::npos)
-            end = cmdline.size();
-        if (arg > 0 && RealPath(cmdline.substr(start, end - start)) == wanted)
-            return true;
-        start = end + 1;
-    }
-    return false;
-}
-
-// The client of this bundle is running when ~/.Nimbulo/ui.pid names a live
-// process that runs the bundle's executable. Only a positive id is ever
-// probed: 0 and negative values address process groups.
-bool ClientRuns(const std::string& executable)
-{
-    Config config;
-    if (config.read(ustring((HomeFolder() + "/.Nimbulo/ui.pid").c_str())) < 0)
-        return false;
-    std::string text = config.table["pid"].c_str();
-    if (text.empty() || text.size() > 10 || text.find_first_not_of("0123456789") != std::string::npos)
-        return false;
-    long pid = strtol(text.c_str(), nullptr, 10);
-    if (pid <= 0 || pid > INT_MAX)
-        return false;
-    if (kill(static_cast<pid_t>(pid), 0) != 0 && errno != EPERM)
-        return false;
-    return RunsExecutable(static_cast<pid_t>(pid), executable);
+    closedir(proc);
+    return found;
 }
 
 // Starts executable in its own session with standard input from /dev/null,
@@ -174,8 +144,8 @@ bool StartDetached(const std::string& executable)
                 close(devnull);
         }
 #ifdef CLOSE_RANGE_CLOEXEC
-        // The launcher's own descriptors (its log file among them) are not
-        // the client's business.
+        // What this process opens is close-on-exec already; this also keeps
+        // back what it was itself handed above 2 by whoever started it.
         close_range(3, ~0U, CLOSE_RANGE_CLOEXEC);
 #endif
         sigaction(SIGPIPE, &defaultAction, nullptr);
@@ -246,7 +216,7 @@ bool PlatformOpenBundle(const ustring& bundle)
 {
     const std::string root = bundle.c_str();
     const std::string executable = root + "/Contents/MacOS/" + BundleExecutableName(root);
-    if (ClientRuns(executable))
+    if (UserRuns(executable))
         return true;
     return StartDetached(executable);
 }

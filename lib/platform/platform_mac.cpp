@@ -1,9 +1,15 @@
 // macOS: the File Manager gives back the spelling a volume stores (letter
-// case, Unicode form) of every component; statfs names the volume's type.
+// case, Unicode form) of every component; statfs names the volume's type;
+// libproc tells what a process runs.
 #include "platform.h"
 
 #include <CoreServices/CoreServices.h>
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
 #include <cstring>
+#include <libproc.h>
+#include <string>
 #include <sys/mount.h>
 #include <sys/param.h>
 
@@ -39,4 +45,36 @@ int PlatformFileSystemTypeName(const ustring& path, ustring& typeName)
         return -1;
     typeName = sfs.f_fstypename;
     return 0;
+}
+
+long PlatformMaxProcessId()
+{
+    // The kernel hands out ids below PID_MAX (99999), which no public header
+    // or sysctl names.
+    return 99998;
+}
+
+int PlatformProcessExecutable(pid_t pid, ustring& executable)
+{
+    if (pid <= 0) {
+        errno = ESRCH;
+        return -1;
+    }
+    char path[PROC_PIDPATHINFO_MAXSIZE];
+    if (proc_pidpath(pid, path, sizeof(path)) <= 0)
+        return -1;
+    executable = path;
+    return 0;
+}
+
+// The client is a binary there; a script's interpreter is not looked into.
+bool PlatformProcessRuns(pid_t pid, const ustring& executable)
+{
+    ustring running;
+    if (PlatformProcessExecutable(pid, running) != 0)
+        return false;
+    char wanted[PATH_MAX];
+    if (realpath(executable.c_str(), wanted) == nullptr)
+        return std::string(running.c_str()) == executable.c_str();
+    return std::string(running.c_str()) == wanted;
 }

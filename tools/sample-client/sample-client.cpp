@@ -14,7 +14,10 @@
 //                                      stop: "<event> pid=<pid> build=<build>
 //                                      present=<0|1> exe=<path>", where
 //                                      present tells whether the executable
-//                                      was still at its path at that moment.
+//                                      was still at its path at that moment;
+//   NIMBULO_SAMPLE_FDS=<file>          append, before opening anything, one
+//                                      line "fds <fd>=<target> ..." naming
+//                                      the descriptors it was started with.
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -26,6 +29,7 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/socket.h>
@@ -47,6 +51,42 @@ void OnSignal(int sig)
     ssize_t n = write(gSignalFds[0], &c, 1);
     (void)n;
     errno = saved;
+}
+
+// What a launcher handed over: every descriptor open at the start, with what
+// it refers to where the system tells (Linux).
+void RecordInheritedDescriptors()
+{
+    const char* path = getenv("NIMBULO_SAMPLE_FDS");
+    if (path == nullptr || path[0] == '\0') {
+        return;
+    }
+    DIR* dir = opendir("/proc/self/fd");
+    if (dir == nullptr) {
+        dir = opendir("/dev/fd");
+    }
+    if (dir == nullptr) {
+        return;
+    }
+    QByteArray line = "fds";
+    while (struct dirent* entry = readdir(dir)) {
+        if (entry->d_name[0] == '.' || atoi(entry->d_name) == dirfd(dir)) {
+            continue;
+        }
+        char target[4096];
+        QByteArray name(entry->d_name);
+        QByteArray link = "/proc/self/fd/" + name;
+        ssize_t n = readlink(link.constData(), target, sizeof(target) - 1);
+        line += " " + name + "=" + (n > 0 ? QByteArray(target, static_cast<int>(n)) : QByteArray("?"));
+    }
+    closedir(dir);
+    line += "\n";
+    int fd = open(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
+    if (fd >= 0) {
+        ssize_t n = write(fd, line.constData(), line.size());
+        (void)n;
+        close(fd);
+    }
 }
 
 QString PidFilePath()
@@ -195,6 +235,7 @@ void SampleClient::Quit()
 
 int main(int argc, char** argv)
 {
+    RecordInheritedDescriptors();
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, gSignalFds) != 0) {
         perror("nimbulo-pelora-ui: socketpair");
         return 1;

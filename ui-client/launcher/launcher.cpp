@@ -15,6 +15,11 @@
 
 namespace {
 
+// The longest wait for another launcher's installation in the same home:
+// stopping a client takes up to five seconds and an extraction seconds to a
+// minute on a slow disk, so a holder still busy after this has hung.
+const int kInstallTurnSeconds = 180;
+
 const char kDialogStyle[] = " QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } ";
 static_assert(sizeof(kDialogStyle) - 1 == 77, "the dialog's style sheet is 77 characters");
 
@@ -95,6 +100,11 @@ void Worker::JoinThread()
 void Worker::HandleServicce()
 {
     Logger::LogMsg(Logger::LEVEL_DEBUG, "launcher_debug", "[DEBUG] launcher(%d): running\n", __LINE__);
+    // From the decision to the start of the client: a launcher of another
+    // copy of the bundle in this home waits, then decides on what this one
+    // leaves and finds the client installed and running.
+    InstallLock turn;
+    turn.Acquire(kInstallTurnSeconds);
     service->PreUpgrade();
     if (service->IsNeedUpgrade()) {
         emit sigShowMsg();
@@ -111,6 +121,7 @@ void Worker::HandleServicce()
     // Whatever installation is in place now gets started.
     service->RemoveAgedFolders();
     service->PostUpgrade();
+    turn.Release();
     Logger::LogMsg(Logger::LEVEL_DEBUG, "launcher_debug", "[DEBUG] launcher(%d): done\n", __LINE__);
     emit sigServiceDone();
 }

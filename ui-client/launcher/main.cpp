@@ -1,7 +1,10 @@
+#include <cerrno>
 #include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -67,10 +70,29 @@ bool ChooseOffscreen(ustring& noDisplay)
     return true;
 }
 
+// A descriptor 0, 1 or 2 that the launcher was started without would go to
+// the next file opened, the log file, and the client would inherit it as its
+// standard output or error. /dev/null takes any missing one first.
+void OpenStandardStreams()
+{
+    for (int fd = 0; fd <= 2; ++fd) {
+        if (fcntl(fd, F_GETFD) != -1 || errno != EBADF)
+            continue;
+        // The lowest free descriptor, which is fd itself.
+        int opened = open("/dev/null", fd == 0 ? O_RDONLY : O_WRONLY);
+        if (opened > fd) {
+            dup2(opened, fd);
+            close(opened);
+        }
+    }
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
 {
+    // Before anything opens a file.
+    OpenStandardStreams();
     setlocale(LC_ALL, "");
     // Before any catalogue is loaded by its ":/" path.
     qInitResources_texts();

@@ -1,10 +1,14 @@
 #include "nimbulo-service.h"
 
 #include <cerrno>
+#include <chrono>
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -20,6 +24,9 @@
 namespace {
 
 const char* const kComponent = "service_debug";
+
+// How long a launcher waits for another one's turn before it says so.
+const long kLockPatienceSeconds = 10;
 
 ustring ToUstring(const QString& s)
 {
@@ -115,6 +122,11 @@ ustring Service::GetUserNimbuloAppInstallPath()
 ustring Service::GetUserNimbuloDataInstallPath()
 {
     return GetUserNimbuloInstallPath() + "/" + "data";
+}
+
+ustring Service::GetUserNimbuloLockPath()
+{
+    return GetUserNimbuloInstallPath() + "/" + "launcher.lock";
 }
 
 void Service::LoadTargetVersion()
@@ -293,6 +305,73 @@ int Service::FSCopyPath(const ustring& src, const ustring& dst)
     }
     FSCloseDir(handle);
     return 0;
+}
+
+InstallLock::InstallLock()
+    : fd(-1)
+{
+}
+
+InstallLock::~InstallLock()
+{
+    Release();
+}
+
+int InstallLock::Acquire(int waitSeconds)
+{
+    Release();
+    const ustring path = Service::GetUserNimbuloLockPath();
+    // Read-write: where flock is emulated with record locks (NFS), an
+    // exclusive lock needs a descriptor open for writing.
+    fd = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+    // Polled rather than blocking, so that the wait has an end: an
+    // installation takes seconds, and a holder still there after minutes
+    // hangs.
+    const auto start = std::chrono::steady_clock::now();
+    bool told = false;
+    int err = fd < 0 ? errno : 0;
+    while (err == 0 && flock(fd, LOCK_EX | LOCK_NB) != 0) {
+        if (errno == EINTR)
+            continue;
+        if (errno != EWOULDBLOCK) {
+            err = errno;
+            break;
+        }
+        long waited = static_cast<long>(
+            std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start).count());
+        if (waited >= waitSeconds) {
+            Logger::LogMsg(Logger::LEVEL_WARNING, kComponent,
+                           "[WARNING] nimbulo-service(%d): another launcher still holds '%s' after %ld seconds, going "
+                           "on without it\n",
+                           __LINE__, path.c_str(), waited);
+            Release();
+            return -1;
+        }
+        if (!told && waited >= kLockPatienceSeconds) {
+            Logger::LogMsg(Logger::LEVEL_NOTE, kComponent,
+                           "[NOTE] nimbulo-service(%d): waiting for another launcher to finish with '%s'\n", __LINE__,
+                           path.c_str());
+            told = true;
+        }
+        struct timespec pause = {0, 100 * 1000 * 1000};
+        nanosleep(&pause, nullptr);
+    }
+    if (err != 0) {
+        Logger::LogMsg(Logger::LEVEL_WARNING, kComponent,
+                       "[WARNING] nimbulo-service(%d): cannot lock '%s': %s (%d), going on without it\n", __LINE__,
+                       path.c_str(), strerror(err), err);
+        Release();
+        return -1;
+    }
+    return 0;
+}
+
+void InstallLock::Release()
+{
+    // Closing the only descriptor of the open file drops the lock.
+    if (fd >= 0)
+        close(fd);
+    fd = -1;
 }
 
 PackageInfo::PackageInfo()

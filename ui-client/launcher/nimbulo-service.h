@@ -6,7 +6,8 @@
 //   B  bundle root          /Applications/Nimbulo.app
 //      bundle resources     B/Contents/Resources   (INFO, package/nimbulo.spk)
 //   H  home                 /Users/someone
-//   R  per-user root        H/.Nimbulo             (ui.pid, log/, app/, data/)
+//   R  per-user root        H/.Nimbulo             (ui.pid, launcher.lock, log/,
+//                                                   app/, data/)
 //   A  per-user application R/Nimbulo.app          (backups: A_tmp, A_tmp1..9)
 #ifndef NIMBULO_SERVICE_H
 #define NIMBULO_SERVICE_H
@@ -47,6 +48,7 @@ public:
     static ustring GetUserNimbuloInstallPath();           // R
     static ustring GetUserNimbuloAppInstallPath();        // A
     static ustring GetUserNimbuloDataInstallPath();       // R/data
+    static ustring GetUserNimbuloLockPath();              // R/launcher.lock
 
     // Copies a file or a folder tree. 0, or -1; a folder whose listing cannot
     // be opened is created empty and counts as copied.
@@ -64,6 +66,30 @@ public:
     ustring sourceMinorVersion;
     ustring sourceBuildVersion;
     ustring sourceIconOverlayVersion;
+};
+
+// One installation at a time per home. The single-instance guard is keyed on
+// the executable's path, so launchers of two copies of the bundle run
+// together; they take turns here, each deciding on what the one before left.
+// A flock on R/launcher.lock: R is the one folder the launcher never moves
+// or removes (A and its backups move during an installation, R/app goes in
+// the clean-up), and the file itself is never deleted, since a launcher that
+// opened a new file of the same name would lock something else. The kernel
+// drops the lock with the process, so a launcher that dies blocks nobody.
+class InstallLock {
+public:
+    InstallLock();
+    // Releases the lock when held.
+    ~InstallLock();
+
+    // Takes the lock, waiting at most waitSeconds for the launcher holding
+    // it. 0 when held; -1 when the lock file cannot be used or the wait ran
+    // out, both logged: the caller goes on without it.
+    int Acquire(int waitSeconds);
+    void Release();
+
+private:
+    int fd;
 };
 
 // Further paths of the running bundle; the upgrade flow does not use them.

@@ -25,6 +25,9 @@ const char* const kClientScript =
     "echo \"pid=$$\" > \"$HOME/.Nimbulo/ui.pid.new\" && mv \"$HOME/.Nimbulo/ui.pid.new\" \"$HOME/.Nimbulo/ui.pid\"\n"
     "sleep 30\n";
 
+// As the package ships it.
+const char* const kPlist = "<plist><dict><key>CFBundleExecutable</key><string>nimbulo-pelora-ui</string></dict></plist>";
+
 class LaunchTest : public ::testing::Test {
 protected:
     void SetUp() override
@@ -50,6 +53,7 @@ protected:
         TearDown();
         fs::remove_all(home);
         fs::create_directories(home + "/.Nimbulo");
+        WriteFile(bundle + "/Contents/Info.plist", kPlist);
         fs::remove(logPath);
         ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, logPath.c_str(), (dir.path() + "/debug").c_str(), 50), 0);
     }
@@ -108,21 +112,25 @@ TEST_F(LaunchTest, UnrelatedLiveProcessInPidFileDoesNotPreventTheStart)
     EXPECT_EQ(WaitForStart(getpid()), kStarted);
 }
 
-// Guards: the plist ignored, a name escaping Contents/MacOS, no fallback.
+// Guards: the plist ignored, a name escaping Contents/MacOS, no fallback to
+// the bundle's name.
 TEST_F(LaunchTest, InfoPlistChoosesTheExecutable)
 {
     const std::vector<std::pair<std::string, std::string>> rows = {
         {"<plist><dict><key>CFBundleExecutable</key>\n\t<string>custom-ui</string></dict></plist>", "custom-ui"},
-        {"<plist><dict><key>CFBundleName</key><string>custom-ui</string></dict></plist>", "nimbulo-pelora-ui"},
-        {"<plist><dict><key>CFBundleExecutable</key><string>../escape</string></dict></plist>", "nimbulo-pelora-ui"},
-        {"", "nimbulo-pelora-ui"},
+        {"<plist><dict><key>CFBundleName</key><string>custom-ui</string></dict></plist>", "Nimbulo"},
+        {"<plist><dict><key>CFBundleExecutable</key><string>../escape</string></dict></plist>", "Nimbulo"},
+        {"", "Nimbulo"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.first);
         Fresh();
         AddExecutable("nimbulo-pelora-ui");
         AddExecutable("custom-ui");
-        if (!row.first.empty())
+        AddExecutable("Nimbulo");
+        if (row.first.empty())
+            fs::remove(bundle + "/Contents/Info.plist");
+        else
             WriteFile(bundle + "/Contents/Info.plist", row.first);
         MacService service;
         EXPECT_EQ(service.LaunchPerUserBin(), 0);

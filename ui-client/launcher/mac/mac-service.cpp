@@ -3,11 +3,9 @@
 #include <cerrno>
 #include <climits>
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
-#include <limits>
 #include <sys/types.h>
 #include <unistd.h>
 
@@ -19,22 +17,6 @@
 namespace {
 
 const char* const kComponent = "service_debug";
-
-// The largest process id the system hands out. Linux allocates ids below
-// /proc/sys/kernel/pid_max; where that file cannot be read, only pid_t's
-// own range bounds the value.
-long MaxProcessId()
-{
-    long limit = std::numeric_limits<pid_t>::max();
-    FILE* fp = fopen("/proc/sys/kernel/pid_max", "r");
-    if (fp == nullptr)
-        return limit;
-    long pidMax = 0;
-    if (fscanf(fp, "%ld", &pidMax) == 1 && pidMax > 1 && pidMax - 1 < limit)
-        limit = pidMax - 1;
-    fclose(fp);
-    return limit;
-}
 
 // A process id as the client writes it: decimal digits only, greater than 0
 // and no larger than the system allows.
@@ -48,7 +30,7 @@ bool ParseProcessId(const ustring& text, pid_t& pid)
 {
     if (text.empty())
         return false;
-    const long limit = MaxProcessId();
+    const long limit = PlatformMaxProcessId();
     long value = 0;
     for (size_t i = 0; i < text.length(); ++i) {
         char c = text[i];
@@ -62,6 +44,29 @@ bool ParseProcessId(const ustring& text, pid_t& pid)
         return false;
     pid = static_cast<pid_t>(value);
     return true;
+}
+
+// Results of ReadClientPid besides 0.
+const int kPidFileMissing = -1;
+const int kPidFileUnreadable = -2;
+const int kPidValueInvalid = -3;
+
+// The one reader of the client's process-id file. 0 and the pid; or one of
+// the codes above, with the value as the file holds it for kPidValueInvalid.
+int ReadClientPid(const ustring& pidFile, pid_t& pid, ustring& value)
+{
+    if (!IsFileExist(pidFile, false))
+        return kPidFileMissing;
+    Config config;
+    if (config.read(pidFile) < 0)
+        return kPidFileUnreadable;
+    value = config.table["pid"];
+    return ParseProcessId(value, pid) ? 0 : kPidValueInvalid;
+}
+
+ustring ClientPidFile()
+{
+    return Service::GetUserNimbuloInstallPath() + "/ui.pid";
 }
 
 void SleepOneSecond()
@@ -140,28 +145,45 @@ int MacService::HandlePackageUpgrade()
 
 void MacService::StopService()
 {
-    ustring pidFile = GetUserNimbuloInstallPath() + "/ui.pid";
-    if (!IsFileExist(pidFile, false)) {
+    ustring pidFile = ClientPidFile();
+    ustring value;
+    pid_t pid = 0;
+    switch (ReadClientPid(pidFile, pid, value)) {
+    case kPidFileMissing:
         Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
                        "[DEBUG] mac/mac-service(%d): pid file '%s' does not exist, no need to terminate\n", __LINE__,
                        pidFile.c_str());
         return;
-    }
-
-    Config config;
-    if (config.read(pidFile) < 0) {
+    case kPidFileUnreadable:
         Logger::LogMsg(Logger::LEVEL_NOTE, kComponent,
                        "[NOTE] mac/mac-service(%d): Failed to read pid file '%s', not exist ?\n", __LINE__,
                        pidFile.c_str());
         return;
-    }
-
-    ustring value = config.table["pid"];
-    pid_t pid = 0;
-    if (!ParseProcessId(value, pid)) {
+    case kPidValueInvalid:
         Logger::LogMsg(Logger::LEVEL_NOTE, kComponent,
                        "[NOTE] mac/mac-service(%d): pid file '%s' holds no valid pid '%s', no need to terminate\n",
                        __LINE__, pidFile.c_str(), value.c_str());
+        return;
+    default:
+        break;
+    }
+
+    // A client that crashed leaves its pid behind, and the system may have
+    // given that id to any other process since: only a process running the
+    // installed client is signalled, never this launcher nor process 1.
+    ustring client = ClientExecutable();
+    if (pid == getpid() || pid == 1 || !PlatformProcessRuns(pid, client)) {
+        ustring runs;
+        if (PlatformProcessExecutable(pid, runs) != 0) {
+            int err = errno;
+            if (err == ESRCH)
+                return;
+            const char* text = strerror(err);
+            runs = ustring("unknown (") + (text != nullptr ? text : "") + ")";
+        }
+        Logger::LogMsg(Logger::LEVEL_NOTE, kComponent,
+                       "[NOTE] mac/mac-service(%d): pid %d runs '%s', not the client '%s', no need to terminate\n",
+                       __LINE__, static_cast<int>(pid), runs.c_str(), client.c_str());
         return;
     }
 
@@ -184,10 +206,14 @@ void MacService::StopService()
     kill(pid, SIGKILL);
 }
 
+ustring MacService::ClientExecutable() const
+{
+    return userAppPath + "/" + "Contents/MacOS" + "/" + "nimbulo-pelora-ui";
+}
+
 bool MacService::PerUserBinPathExist()
 {
-    ustring path = userAppPath + "/" + "Contents/MacOS" + "/" + "nimbulo-pelora-ui";
-    return access(path.c_str(), F_OK) == 0;
+    return access(ClientExecutable().c_str(), F_OK) == 0;
 }
 
 int MacService::LaunchPerUserBin()

@@ -14,7 +14,8 @@ public:
     static MacService* GetInstace();
 
     // Sends SIGTERM to the client named in R/ui.pid, waits up to five
-    // seconds for it to go, then sends SIGKILL.
+    // seconds for it to go, then sends SIGKILL. A pid that does not run the
+    // client executable is left alone.
     void StopService() override;
     // Stops the client when it is installed, then PrepareUserEnv().
     int HandlePackageUpgrade() override;
@@ -27,7 +28,9 @@ public:
 
     void LoadSourceVerInfo();
     void LoadTargetVerInfo();
-    // Whether A/Contents/MacOS/nimbulo-pelora-ui exists (executable or not).
+    // A/Contents/MacOS/nimbulo-pelora-ui.
+    ustring ClientExecutable() const;
+    // Whether the client executable exists (executable or not).
     bool PerUserBinPathExist();
     // Makes the desktop forget the per-user bundle, then opens it. 0 when
     // the open request was accepted, else -1.
