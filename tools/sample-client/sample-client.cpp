@@ -12,9 +12,11 @@
 //                                      ending (a client slow to stop);
 //   NIMBULO_SAMPLE_RECORD=<file>       append one line per start, signal and
 //                                      stop: "<event> pid=<pid> build=<build>
-//                                      present=<0|1> exe=<path>", where
-//                                      present tells whether the executable
-//                                      was still at its path at that moment.
+//                                      present=<0|1> fds=<list> exe=<path>",
+//                                      where present tells whether the
+//                                      executable was still at its path at
+//                                      that moment, and fds lists the
+//                                      descriptors it was started with.
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -26,6 +28,7 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/socket.h>
@@ -38,6 +41,24 @@
 namespace {
 
 int gSignalFds[2] = {-1, -1};
+QByteArray gStartFds;
+
+// The descriptors inherited from whoever started us, e.g. "0,1,2".
+QByteArray ListOpenFds()
+{
+    QByteArray list;
+    DIR* dir = opendir("/proc/self/fd");
+    if (dir == nullptr) {
+        return "?";
+    }
+    while (struct dirent* e = readdir(dir)) {
+        if (e->d_name[0] != '.' && atoi(e->d_name) != dirfd(dir)) {
+            list += (list.isEmpty() ? "" : ",") + QByteArray(e->d_name);
+        }
+    }
+    closedir(dir);
+    return list;
+}
 
 // Only async-signal-safe work here: the byte wakes the event loop.
 void OnSignal(int sig)
@@ -160,7 +181,7 @@ void SampleClient::Record(const char* event)
     // clients never interleave.
     QByteArray line = QByteArray(event) + " pid=" + QByteArray::number(QCoreApplication::applicationPid()) +
                       " build=" + build.toUtf8() + " present=" + (QFileInfo::exists(exePath) ? "1" : "0") +
-                      " exe=" + exePath.toUtf8() + "\n";
+                      " fds=" + gStartFds + " exe=" + exePath.toUtf8() + "\n";
     int fd = open(recordPath.constData(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
     if (fd < 0) {
         return;
@@ -195,6 +216,7 @@ void SampleClient::Quit()
 
 int main(int argc, char** argv)
 {
+    gStartFds = ListOpenFds();
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, gSignalFds) != 0) {
         perror("nimbulo-pelora-ui: socketpair");
         return 1;
