@@ -13,9 +13,10 @@
 //   NIMBULO_SAMPLE_RECORD=<file>       append one line per start, signal and
 //                                      stop: "<event> pid=<pid> build=<build>
 //                                      present=<0|1> fds=<list> exe=<path>",
-//                                      where present tells whether the
-//                                      executable was still at its path at
-//                                      that moment, and fds lists the
+//                                      where present tells whether this
+//                                      executable (the same file, not a newer
+//                                      one) was still at its path at that
+//                                      moment, and fds lists the
 //                                      descriptors it was started with.
 #include <QApplication>
 #include <QDir>
@@ -32,6 +33,7 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -42,6 +44,13 @@ namespace {
 
 int gSignalFds[2] = {-1, -1};
 QByteArray gStartFds;
+ino_t gExeInode = 0;
+
+ino_t ExeInode(const QString& path)
+{
+    struct stat st;
+    return stat(QFile::encodeName(path).constData(), &st) == 0 ? st.st_ino : 0;
+}
 
 // The descriptors inherited from whoever started us, e.g. "0,1,2".
 QByteArray ListOpenFds()
@@ -180,7 +189,7 @@ void SampleClient::Record(const char* event)
     // One write() per line on an O_APPEND descriptor: lines of several
     // clients never interleave.
     QByteArray line = QByteArray(event) + " pid=" + QByteArray::number(QCoreApplication::applicationPid()) +
-                      " build=" + build.toUtf8() + " present=" + (QFileInfo::exists(exePath) ? "1" : "0") +
+                      " build=" + build.toUtf8() + " present=" + (ExeInode(exePath) == gExeInode ? "1" : "0") +
                       " fds=" + gStartFds + " exe=" + exePath.toUtf8() + "\n";
     int fd = open(recordPath.constData(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
     if (fd < 0) {
@@ -231,6 +240,7 @@ int main(int argc, char** argv)
 
     QApplication app(argc, argv);
     SampleClient* client = new SampleClient;
+    gExeInode = ExeInode(QCoreApplication::applicationFilePath());
     if (client->WritePidFile() != 0) {
         fprintf(stderr, "nimbulo-pelora-ui: cannot write %s\n", PidFilePath().toLocal8Bit().constData());
     }

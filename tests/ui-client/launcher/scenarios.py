@@ -13,7 +13,7 @@ runs in PID and mount namespaces of its own, under a shell as process 1 that
 reaps the clients it adopts; rows that need to differ in permissions run the
 launcher as user 65534.
 """
-import hashlib, io, os, random, re, shutil, signal, subprocess, sys, tarfile, tempfile, time
+import hashlib, io, os, random, re, shutil, subprocess, sys, tarfile, tempfile, time
 
 CLIENT, INFO = "Contents/MacOS/nimbulo-pelora-ui", "Contents/Resources/INFO"
 PLIST = "<plist><dict><key>CFBundleExecutable</key><string>nimbulo-pelora-ui</string></dict></plist>\n"
@@ -304,8 +304,9 @@ class Scene:
     def env(self, extra=None):
         env = {"PATH": f"{self.bundle}/Contents/MacOS:/usr/sbin:/usr/bin:/sbin:/bin", "HOME": self.home,
                "LANG": "C.UTF-8", "QT_QPA_PLATFORM": "offscreen", "NIMBULO_SAMPLE_RECORD": self.record,
-               "ASAN_OPTIONS": "detect_leaks=0", "XDG_RUNTIME_DIR": self.work,
-               "LOCPATH": f"{self.work}/loc"}
+               "ASAN_OPTIONS": "detect_leaks=0", "XDG_RUNTIME_DIR": self.work}
+        if os.path.isdir(f"{self.work}/loc"):
+            env["LOCPATH"] = f"{self.work}/loc"
         env.update({k: v for k, v in os.environ.items() if k.endswith("SAN_OPTIONS")})
         env.update(self.r["env"], **(extra or {}))
         return {k: v for k, v in env.items() if v is not None}
@@ -376,6 +377,11 @@ class Scene:
         text = text.replace(self.bundle, "B").replace(self.home, "~")
         text = re.sub(r"^\S+ [ \d]\d \d\d:\d\d:\d\d ", "", text, flags=re.M)  # %b follows the locale
         return re.sub(r"^(\[[A-Z]+\] [a-z/-]+)\(\d+\): ", r"\1(N): ", text, flags=re.M).splitlines()
+
+
+def alive(pid):
+    stat = read(f"/proc/{pid}/stat")
+    return bool(stat) and stat.rsplit(")", 1)[1].split()[0] != "Z"
 
 
 def in_order(want, have):
@@ -452,8 +458,7 @@ def run_row(r, args):
         if any(bad in l for l in log):
             ok = fail(r, f"log has {bad!r}")
     for name in ("sleeper", "root_sleeper"):
-        st = read(f"/proc/{sleepers[name]}/stat")
-        if not st or st.rsplit(")", 1)[1].split()[0] == "Z":
+        if not alive(sleepers[name]):
             ok = fail(r, f"the {name} (pid {sleepers[name]}) was signalled")
     rec = read(s.record).splitlines()
     if r["running"] and r["mode"] is None and r["tree"] == "new":
@@ -462,12 +467,13 @@ def run_row(r, args):
         want = ["start", "signal", "stop"] if r["delay"] < 5000 else ["start", "signal"]
         if mine != want or (r["delay"] < 5000 and " present=1 " not in [l for l in rec if l.startswith("stop ")][0]):
             ok = fail(r, f"old client should {'stop before the rename' if r['delay'] < 5000 else 'be killed'}:\n" + "\n".join(rec))
-        if os.path.exists(f"/proc/{old[4:]}") and read(f"/proc/{old[4:]}/stat").rsplit(")", 1)[1].split()[0] != "Z":
+        if alive(old[4:]):
             ok = fail(r, "the old client still runs")
-        if r["delay"] >= 5000 and s.t_exit - s.t_signal < 4.9:
-            ok = fail(r, f"SIGKILL {s.t_exit - s.t_signal:.1f} s after SIGTERM, before the five one-second probes")
-        if r["delay"] < 5000 and s.t_exit - s.t_signal > 4.5:  # about 1 s expected; the probes went on
-            ok = fail(r, f"the run took {s.t_exit - s.t_signal:.1f} s after SIGTERM though the client was gone")
+        waited = s.t_exit - (s.t_signal or s.t_exit)
+        if r["delay"] >= 5000 and waited < 4.9:
+            ok = fail(r, f"SIGKILL {waited:.1f} s after SIGTERM, before the five one-second probes")
+        if r["delay"] < 5000 and waited > 4.5:  # about 1 s expected; the probes went on
+            ok = fail(r, f"the run took {waited:.1f} s after SIGTERM though the client was gone")
     if r["mode"] == "second":
         if getattr(s, "second", None) != (0, True):
             ok = fail(r, f"second instance (exit status, first still busy): {getattr(s, 'second', None)}")
@@ -489,7 +495,11 @@ def main():
         print("\n".join(ROWS))
         return 0
     if len(sys.argv) == 6 and sys.argv[1] == "--inside":
-        return 0 if run_row(ROWS[sys.argv[2]], sys.argv[3:]) else 1
+        try:
+            return 0 if run_row(ROWS[sys.argv[2]], sys.argv[3:]) else 1
+        except Exception as e:
+            fail(ROWS[sys.argv[2]], f"runner error: {e!r}")
+            raise
     name, args = sys.argv[1], sys.argv[2:]
     r = ROWS[name]
     probe = "mount -t tmpfs -o size=1m tmpfs /mnt"
