@@ -347,6 +347,8 @@ class Scene:
             if uid:
                 os.setgroups([]), os.setgid(uid), os.setuid(uid)
         p = subprocess.Popen(argv, env=self.env(), stdout=out, stderr=err, preexec_fn=pre)
+        for f in {out, err}:
+            f.close() if hasattr(f, "close") else os.close(f)
         pair = r["mode"] == "pair" and subprocess.Popen([f"{self.bundle}-copy/Contents/MacOS/Nimbulo"], env=self.env(),
                                                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         deadline, self.t_signal = time.time() + 120, None
