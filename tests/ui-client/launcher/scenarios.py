@@ -52,7 +52,7 @@ UPGRADE_LOG = [  # an upgrade of build 100 to 312 with every debug component at 
 # {root_sleeper}, {gone}, {self} (the runner), {launcher} are replaced), debug (debug switch file),
 # env (None unsets), user (uid to run the launcher as), prep (folder modes),
 # via (link, chain, path), stdio (closed, gone_reader), bundle (where the
-# copy lies), mode (crash:<point>, fullvol, second: another start while
+# copy lies), mode (crash:<point> with a package of 1,500 entries, fullvol, second: another start while
 # the first stops the client, pair: a copy of the bundle started alongside).
 # Outcome: tree (new, old, none), starts (builds started by the run), left
 # (backups left), log (whole lines in this order), exact (the whole log),
@@ -148,7 +148,7 @@ row("plugins_searched_in_bundle", env={"QT_DEBUG_PLUGINS": "1"},
 row("client_gets_only_std_fds", fds=True)
 # ---- crash consistency and a full volume
 row("crash_after_backup", mode="crash:backup")
-row("crash_mid_extraction", mode="crash:entries")
+row("crash_mid_extraction", mode="crash:entries:800")
 row("crash_after_last_entry", mode="crash:last", left=["0?"])  # known: Nimbulo.app_tmp may stay
 row("full_volume_keeps_old", mode="fullvol", tree="old", starts=("100",))
 
@@ -393,11 +393,13 @@ def in_order(want, have):
 
 
 def crash_point(s, point):
+    """When to kill: backup (made), entries:N (extracted), last (the last entry is written)."""
     a_info, backup = f"{s.app}/{INFO}", s.backup(0)
     if point == "backup":
         return lambda: os.path.isdir(backup)
-    if point == "entries":
-        return lambda: os.path.isdir(backup) and sum(len(f) + len(d) for _, d, f in os.walk(s.app)) >= 800
+    if point.startswith("entries:"):
+        n = int(point[8:])
+        return lambda: os.path.isdir(backup) and sum(len(f) + len(d) for _, d, f in os.walk(s.app)) >= n
     return lambda: os.path.isdir(backup) and os.path.exists(a_info)
 
 
