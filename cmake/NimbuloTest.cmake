@@ -1,9 +1,9 @@
-# nimbulo_test(<name> SOURCES <files...> LIBS <targets...> [QT])
+# nimbulo_test(<name> SOURCES <files...> LIBS <targets...> [LABELS <labels...>] [QT])
 # Builds one GoogleTest program and registers each of its tests with CTest.
 # Tests are listed when CTest runs, so programs that build a QApplication in
 # main() never run during the build.
 function(nimbulo_test name)
-  cmake_parse_arguments(T "QT" "" "SOURCES;LIBS" ${ARGN})
+  cmake_parse_arguments(T "QT" "" "SOURCES;LIBS;LABELS" ${ARGN})
   add_executable(${name} ${T_SOURCES})
   target_link_libraries(${name} PRIVATE ${T_LIBS} GTest::gtest GTest::gmock Threads::Threads)
   if(NOT T_QT)
@@ -16,5 +16,5 @@ function(nimbulo_test name)
   gtest_discover_tests(${name}
     DISCOVERY_MODE PRE_TEST
     DISCOVERY_TIMEOUT 60
-    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 300)
+    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 300 LABELS "${T_LABELS}")
 endfunction()

@@ -12,12 +12,12 @@
 //                                      ending (a client slow to stop);
 //   NIMBULO_SAMPLE_RECORD=<file>       append one line per start, signal and
 //                                      stop: "<event> pid=<pid> build=<build>
-//                                      present=<0|1> exe=<path>", where
-//                                      present tells whether the executable
-//                                      was still at its path at that moment;
-//   NIMBULO_SAMPLE_FDS=<file>          append, before opening anything, one
-//                                      line "fds <fd>=<target> ..." naming
-//                                      the descriptors it was started with.
+//                                      present=<0|1> fds=<list> exe=<path>",
+//                                      where present tells whether this
+//                                      executable (the same file, not a newer
+//                                      one) was still at its path at that
+//                                      moment, and fds lists the
+//                                      descriptors it was started with.
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -33,6 +33,7 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -42,6 +43,31 @@
 namespace {
 
 int gSignalFds[2] = {-1, -1};
+QByteArray gStartFds;
+ino_t gExeInode = 0;
+
+ino_t ExeInode(const QString& path)
+{
+    struct stat st;
+    return stat(QFile::encodeName(path).constData(), &st) == 0 ? st.st_ino : 0;
+}
+
+// The descriptors inherited from whoever started us, e.g. "0,1,2".
+QByteArray ListOpenFds()
+{
+    QByteArray list;
+    DIR* dir = opendir("/proc/self/fd");
+    if (dir == nullptr) {
+        return "?";
+    }
+    while (struct dirent* e = readdir(dir)) {
+        if (e->d_name[0] != '.' && atoi(e->d_name) != dirfd(dir)) {
+            list += (list.isEmpty() ? "" : ",") + QByteArray(e->d_name);
+        }
+    }
+    closedir(dir);
+    return list;
+}
 
 // Only async-signal-safe work here: the byte wakes the event loop.
 void OnSignal(int sig)
@@ -51,42 +77,6 @@ void OnSignal(int sig)
     ssize_t n = write(gSignalFds[0], &c, 1);
     (void)n;
     errno = saved;
-}
-
-// What a launcher handed over: every descriptor open at the start, with what
-// it refers to where the system tells (Linux).
-void RecordInheritedDescriptors()
-{
-    const char* path = getenv("NIMBULO_SAMPLE_FDS");
-    if (path == nullptr || path[0] == '\0') {
-        return;
-    }
-    DIR* dir = opendir("/proc/self/fd");
-    if (dir == nullptr) {
-        dir = opendir("/dev/fd");
-    }
-    if (dir == nullptr) {
-        return;
-    }
-    QByteArray line = "fds";
-    while (struct dirent* entry = readdir(dir)) {
-        if (entry->d_name[0] == '.' || atoi(entry->d_name) == dirfd(dir)) {
-            continue;
-        }
-        char target[4096];
-        QByteArray name(entry->d_name);
-        QByteArray link = "/proc/self/fd/" + name;
-        ssize_t n = readlink(link.constData(), target, sizeof(target) - 1);
-        line += " " + name + "=" + (n > 0 ? QByteArray(target, static_cast<int>(n)) : QByteArray("?"));
-    }
-    closedir(dir);
-    line += "\n";
-    int fd = open(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
-    if (fd >= 0) {
-        ssize_t n = write(fd, line.constData(), line.size());
-        (void)n;
-        close(fd);
-    }
 }
 
 QString PidFilePath()
@@ -199,8 +189,8 @@ void SampleClient::Record(const char* event)
     // One write() per line on an O_APPEND descriptor: lines of several
     // clients never interleave.
     QByteArray line = QByteArray(event) + " pid=" + QByteArray::number(QCoreApplication::applicationPid()) +
-                      " build=" + build.toUtf8() + " present=" + (QFileInfo::exists(exePath) ? "1" : "0") +
-                      " exe=" + exePath.toUtf8() + "\n";
+                      " build=" + build.toUtf8() + " present=" + (ExeInode(exePath) == gExeInode ? "1" : "0") +
+                      " fds=" + gStartFds + " exe=" + exePath.toUtf8() + "\n";
     int fd = open(recordPath.constData(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
     if (fd < 0) {
         return;
@@ -235,7 +225,7 @@ void SampleClient::Quit()
 
 int main(int argc, char** argv)
 {
-    RecordInheritedDescriptors();
+    gStartFds = ListOpenFds();
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, gSignalFds) != 0) {
         perror("nimbulo-pelora-ui: socketpair");
         return 1;
@@ -256,6 +246,7 @@ int main(int argc, char** argv)
 #endif
     QApplication app(argc, argv);
     SampleClient* client = new SampleClient;
+    gExeInode = ExeInode(QCoreApplication::applicationFilePath());
     if (client->WritePidFile() != 0) {
         fprintf(stderr, "nimbulo-pelora-ui: cannot write %s\n", PidFilePath().toLocal8Bit().constData());
     }
