@@ -4,7 +4,7 @@
 //  - a message suppressed by its threshold, called the way the code calls it.
 // Each figure is the median of several rounds. With --quick the run takes a
 // second or two and exits 1 when a goal is missed by a wide margin.
-#include "log.h"
+#include "liblogger/log.h"
 
 #include <unistd.h>
 

@@ -4,7 +4,7 @@
 // the table emptied.
 #include <vector>
 
-#include "config.h"
+#include "liblogger/config.h"
 #include "fuzz.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)

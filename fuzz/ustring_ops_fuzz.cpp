@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "fuzz.h"
-#include "ustring.h"
+#include "libustring/ustring.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {

@@ -1,6 +1,6 @@
 // File operations over POSIX calls. Paths that need the spelling the file
 // system stores go through the platform layer (PlatformResolvePath).
-#include "file-op.h"
+#include "libfile/file-op.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -11,9 +11,9 @@
 #include <sys/time.h>
 #include <unistd.h>
 
-#include "log.h"
-#include "platform.h"
-#include "tmp_name_gen.h"
+#include "liblogger/log.h"
+#include "platform/platform.h"
+#include "libtmpname/tmp_name_gen.h"
 
 namespace {
 

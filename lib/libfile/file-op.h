@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <dirent.h>
 
-#include "ustring.h"
+#include "libustring/ustring.h"
 
 enum FILE_TYPE {
     FILE_TYPE_NONE = 0,

@@ -4,7 +4,7 @@
 
 #include <map>
 
-#include "ustring.h"
+#include "libustring/ustring.h"
 
 class Config {
 public:

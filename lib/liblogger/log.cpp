@@ -1,7 +1,7 @@
 // Logger and Config: the process-wide diagnostic log, and the strict
 // key=value reader that feeds its thresholds and reads the client's pid file.
-#include "log.h"
-#include "config.h"
+#include "liblogger/log.h"
+#include "liblogger/config.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

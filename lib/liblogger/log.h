@@ -9,7 +9,7 @@
 #include <pthread.h>
 #include <map>
 
-#include "ustring.h"
+#include "libustring/ustring.h"
 
 class Logger {
 public:

@@ -1,5 +1,5 @@
 // TmpNameGen: RC4-drawn temporary names.
-#include "tmp_name_gen.h"
+#include "libtmpname/tmp_name_gen.h"
 
 #include <sys/time.h>
 

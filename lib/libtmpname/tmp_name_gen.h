@@ -7,7 +7,7 @@
 
 #include <pthread.h>
 
-#include "ustring.h"
+#include "libustring/ustring.h"
 
 class TmpNameGen {
 public:

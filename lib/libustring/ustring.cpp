@@ -1,4 +1,4 @@
-#include "ustring.h"
+#include "libustring/ustring.h"
 
 #include <unicode/unorm2.h>
 #include <unicode/ustring.h>

@@ -20,7 +20,7 @@
 #include <sys/types.h>
 #include <vector>
 
-#include "ustring.h"
+#include "libustring/ustring.h"
 
 // Resolves path to the absolute path of the same object with every existing
 // component spelled as the file system stores it (letter case, Unicode form).

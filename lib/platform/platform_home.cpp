@@ -1,7 +1,7 @@
 // The user's home folder, the same on every platform that has POSIX: one
 // rule for the whole program, so that the installation, its log and the
 // client's process-id file are always looked for in the same place.
-#include "platform.h"
+#include "platform/platform.h"
 
 #include <cerrno>
 #include <cstdlib>

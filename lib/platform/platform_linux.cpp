@@ -1,6 +1,6 @@
 // Linux: path resolution and file-system type names from POSIX and the
 // kernel's statfs and inode-flag interfaces; processes through /proc.
-#include "platform.h"
+#include "platform/platform.h"
 
 #include <cerrno>
 #include <climits>

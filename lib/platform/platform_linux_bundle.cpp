@@ -2,7 +2,7 @@
 // desktop's open service would only show a bundle's folder, so opening a
 // bundle does what it does on macOS: it starts the bundle's application,
 // unless that application already runs.
-#include "platform.h"
+#include "platform/platform.h"
 
 #include <cerrno>
 #include <csignal>

@@ -1,5 +1,5 @@
 // Linux: where the running executable is, and whether a display is there.
-#include "platform.h"
+#include "platform/platform.h"
 
 #include <cstdlib>
 #include <dlfcn.h>

@@ -1,7 +1,7 @@
 // macOS: the File Manager gives back the spelling a volume stores (letter
 // case, Unicode form) of every component; statfs names the volume's type;
 // libproc tells what a process runs.
-#include "platform.h"
+#include "platform/platform.h"
 
 #include <CoreServices/CoreServices.h>
 #include <cerrno>

@@ -1,7 +1,7 @@
 // Bundles on macOS: Launch Services keeps a record of every bundle it has
 // seen, and opening a bundle through the desktop's open service starts its
 // application, or brings it forward when it already runs.
-#include "platform.h"
+#include "platform/platform.h"
 
 #include <QDesktopServices>
 #include <QProcess>

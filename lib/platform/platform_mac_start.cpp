@@ -1,6 +1,6 @@
 // macOS: the desktop starts the launcher by the executable inside its
 // bundle, and the window server is always there.
-#include "platform.h"
+#include "platform/platform.h"
 
 #include <CoreFoundation/CoreFoundation.h>
 #include <climits>

@@ -7,9 +7,9 @@
 #include <cstdint>
 #include <iostream>
 
-#include "log.h"
+#include "liblogger/log.h"
 #include "notify-adapter.h"
-#include "str-table.h"
+#include "locale/str-table.h"
 
 namespace {
 

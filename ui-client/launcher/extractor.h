@@ -3,7 +3,7 @@
 #ifndef NIMBULO_EXTRACTOR_H
 #define NIMBULO_EXTRACTOR_H
 
-#include "ustring.h"
+#include "libustring/ustring.h"
 
 struct archive;
 

@@ -9,9 +9,9 @@
 #include <QKeySequence>
 #include <QPixmap>
 
-#include "log.h"
-#include "mac-service.h"
-#include "str-table.h"
+#include "liblogger/log.h"
+#include "mac/mac-service.h"
+#include "locale/str-table.h"
 
 namespace {
 

@@ -13,12 +13,12 @@
 #include <QTranslator>
 
 #include "launcher.h"
-#include "log.h"
+#include "liblogger/log.h"
 #include "nimbulo-service.h"
-#include "platform.h"
-#include "qtsingleapplication.h"
-#include "str-table.h"
-#include "ustring.h"
+#include "platform/platform.h"
+#include "qtsingleapplication/qtsingleapplication.h"
+#include "locale/str-table.h"
+#include "libustring/ustring.h"
 
 namespace {
 

@@ -17,9 +17,9 @@
 #include <QVariant>
 
 #include "extractor.h"
-#include "file-op.h"
-#include "log.h"
-#include "platform.h"
+#include "libfile/file-op.h"
+#include "liblogger/log.h"
+#include "platform/platform.h"
 
 namespace {
 

@@ -14,7 +14,7 @@
 
 #include <cstdint>
 
-#include "ustring.h"
+#include "libustring/ustring.h"
 
 class Service {
 public:

@@ -1,9 +1,9 @@
 // File operations: result codes and exact log lines, the exact-name
 // existence test, links left alone where they must be, moves between
 // volumes, and no descriptor left open (checked after every test).
-#include "file-op.h"
-#include "log.h"
-#include "platform.h"
+#include "libfile/file-op.h"
+#include "liblogger/log.h"
+#include "platform/platform.h"
 
 #include "../lib_test.h"
 

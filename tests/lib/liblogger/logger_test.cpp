@@ -1,7 +1,7 @@
 // Config, the strict key=value reader, and Logger: the line format,
 // per-component thresholds, rotation and two writers at once.
-#include "config.h"
-#include "log.h"
+#include "liblogger/config.h"
+#include "liblogger/log.h"
 
 #include "../lib_test.h"
 

@@ -1,6 +1,6 @@
 // TmpNameGen: the keystream and its encoding against known names, the shape
 // and uniqueness of names, and the time-of-day key.
-#include "tmp_name_gen.h"
+#include "libtmpname/tmp_name_gen.h"
 
 #include "../lib_test.h"
 

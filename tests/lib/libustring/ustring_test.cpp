@@ -1,6 +1,6 @@
 // ustring: byte searches, trims, compare, the capacity rule, and the UTF-16
 // copy kept current across every kind of edit.
-#include "ustring.h"
+#include "libustring/ustring.h"
 
 #include "../lib_test.h"
 

@@ -8,7 +8,7 @@
 
 #include "launcher.h"
 #include "nimbulo-service.h"
-#include "str-table.h"
+#include "locale/str-table.h"
 #include "ui_test.h"
 
 // Declared a friend by Launcher.

@@ -8,7 +8,7 @@
 #include <QCoreApplication>
 #include <QProcess>
 
-#include "qtsingleapplication.h"
+#include "qtsingleapplication/qtsingleapplication.h"
 
 // Starts command with --hold; its answer, "running=0" or "running=1".
 static std::string Hold(QProcess& process, QStringList command, const QString& runtime)

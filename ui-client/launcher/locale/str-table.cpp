@@ -1,11 +1,11 @@
-#include "str-table.h"
+#include "locale/str-table.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QTranslator>
 
 #include "str-table-rows.h"
-#include "varnex-locale.h"
+#include "locale/varnex-locale.h"
 
 const char* StrTable::stab[StrTable::kRowCount];
 const char* StrTable::ktab[StrTable::kRowCount];

@@ -1,4 +1,4 @@
-#include "varnex-locale.h"
+#include "locale/varnex-locale.h"
 
 #include <QLocale>
 

@@ -1,4 +1,4 @@
-#include "mac-service.h"
+#include "mac/mac-service.h"
 
 #include <cerrno>
 #include <climits>
@@ -9,10 +9,10 @@
 #include <sys/types.h>
 #include <unistd.h>
 
-#include "config.h"
-#include "file-op.h"
-#include "log.h"
-#include "platform.h"
+#include "liblogger/config.h"
+#include "libfile/file-op.h"
+#include "liblogger/log.h"
+#include "platform/platform.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include <QProcess>
 #include <QTranslator>
 
-#include "str-table.h"
-#include "varnex-locale.h"
+#include "locale/str-table.h"
+#include "locale/varnex-locale.h"
 
 TEST(Locale, SystemLocaleChoosesTheLanguageAndItsCatalogue)
 {
