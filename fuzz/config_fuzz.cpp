@@ -4,8 +4,8 @@
 // the table emptied.
 #include <vector>
 
-#include "liblogger/config.h"
 #include "fuzz.h"
+#include "liblogger/config.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {

@@ -17,12 +17,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 // written there. Folders written without owner permissions may stay behind
 // (scripts/fuzz gives the targets a private /tmp).
 struct FuzzFile {
-    FuzzFile(const uint8_t* data, size_t size) : dir(std::filesystem::temp_directory_path() / "nimbulo-fuzz-XXXXXX")
+    FuzzFile(const uint8_t* data, size_t size)
+        : dir(std::filesystem::temp_directory_path() / "nimbulo-fuzz-XXXXXX")
     {
         FUZZ_CHECK(mkdtemp(&dir[0]) != nullptr);
-        std::ofstream(path = dir + "/input", std::ios::binary).write(reinterpret_cast<const char*>(data), long(size));
+        std::ofstream(path = dir + "/input", std::ios::binary)
+            .write(reinterpret_cast<const char*>(data), long(size));
     }
-    ~FuzzFile() { std::error_code ignored; std::filesystem::remove_all(dir, ignored); }
+    ~FuzzFile()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(dir, ignored);
+    }
     std::string dir, path;
 };
 

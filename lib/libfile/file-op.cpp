@@ -12,8 +12,8 @@
 #include <unistd.h>
 
 #include "liblogger/log.h"
-#include "platform/platform.h"
 #include "libtmpname/tmp_name_gen.h"
+#include "platform/platform.h"
 
 namespace {
 
@@ -38,8 +38,7 @@ const char* ErrorText(int err)
 enum ErrnoNumber { kErrno };
 enum ErrnoText { kErrnoText };
 
-template <typename T>
-T ErrnoArg(T value, int)
+template<typename T> T ErrnoArg(T value, int)
 {
     return value;
 }
@@ -55,7 +54,7 @@ const char* ErrnoArg(ErrnoText, int err)
 // The one place where a failed call's errno becomes a message and a result:
 // logs format at error level with the line and args (kErrno and kErrnoText
 // filled in), leaves errno as the call set it, and gives back code.
-template <typename Result, typename... Args>
+template<typename Result, typename... Args>
 Result PosixError(Result code, int line, const char* format, Args... args)
 {
     const int err = errno;
@@ -153,9 +152,10 @@ int MoveSpecialAcrossVolumes(ustring const& src, ustring const& dst, int type)
     if (FSReadSymbolicLink(src, target) != 0)
         return -3;
     if (symlink(target.c_str(), dst.c_str()) != 0)
-        return PosixError(-3, __LINE__,
-                          "[ERROR] file-op(%d): FSRename: Failed to recreate symbolic link '%s' as '%s'. %s\n",
-                          src.c_str(), dst.c_str(), kErrnoText);
+        return PosixError(
+            -3, __LINE__,
+            "[ERROR] file-op(%d): FSRename: Failed to recreate symbolic link '%s' as '%s'. %s\n", src.c_str(),
+            dst.c_str(), kErrnoText);
     if (remove(src.c_str()) != 0)
         return PosixError(-3, __LINE__,
                           "[ERROR] file-op(%d): FSRename: Failed to remove moved symbolic link '%s'. %s\n",
@@ -230,7 +230,8 @@ int GetFileInfo(ustring const& path, _FILE_INFO_tag& info)
         return -1;
     }
     Logger::LogMsg(Logger::LEVEL_DEBUG, Component(),
-                   "[DEBUG] file-op(%d): FSRefMakePath outTargetPath path = [%s].\n", __LINE__, resolved.c_str());
+                   "[DEBUG] file-op(%d): FSRefMakePath outTargetPath path = [%s].\n", __LINE__,
+                   resolved.c_str());
     info.name = LastComponent(resolved);
     info.path.swap(resolved);
     return 0;
@@ -330,14 +331,15 @@ int FSMKDirP(ustring const& path, char** stop, bool replace_file, unsigned short
             }
         } else if (!last) {
             Logger::LogMsg(Logger::LEVEL_INFO, Component(),
-                           "[INFO] file-op(%d): FSMKDirP: path: %s is symbolic link pointed to folder\n", __LINE__,
-                           copy);
+                           "[INFO] file-op(%d): FSMKDirP: path: %s is symbolic link pointed to folder\n",
+                           __LINE__, copy);
         } else {
             result = -1;
             savedErrno = EEXIST;
-            Logger::LogMsg(Logger::LEVEL_INFO, Component(),
-                           "[INFO] file-op(%d): FSMKDirP: path: %s is existing file or symbolic link pointed to file\n",
-                           __LINE__, copy);
+            Logger::LogMsg(
+                Logger::LEVEL_INFO, Component(),
+                "[INFO] file-op(%d): FSMKDirP: path: %s is existing file or symbolic link pointed to file\n",
+                __LINE__, copy);
         }
 
         *end = saved;
@@ -362,21 +364,23 @@ int FSMKDir(ustring const& path, bool parents)
         return -1;
     _FILE_INFO_tag info;
     if (GetFileInfo(path, info) != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, Component(), "[ERROR] file-op(%d): FSMKDir: Failed to to file info '%s'\n",
-                       __LINE__, path.c_str());
+        Logger::LogMsg(Logger::LEVEL_ERROR, Component(),
+                       "[ERROR] file-op(%d): FSMKDir: Failed to to file info '%s'\n", __LINE__, path.c_str());
         return -1;
     }
     if (info.exists) {
         if (info.type == FILE_TYPE_DIR)
             return 0;
         Logger::LogMsg(Logger::LEVEL_ERROR, Component(),
-                       "[ERROR] file-op(%d): FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n",
+                       "[ERROR] file-op(%d): FSMKDir: Create a folder but local file system is not directory "
+                       "'%s' (%d)\n",
                        __LINE__, path.c_str(), info.type);
         return -1;
     }
     int rc = parents ? FSMKDirP(path, nullptr, false, 0xFFFF) : mkdir(path.c_str(), 0777);
     if (rc != 0)
-        return PosixError(-2, __LINE__, "[ERROR] file-op(%d): path = %s errno : %s\n", path.c_str(), kErrnoText);
+        return PosixError(-2, __LINE__, "[ERROR] file-op(%d): path = %s errno : %s\n", path.c_str(),
+                          kErrnoText);
     return 0;
 }
 
@@ -416,12 +420,12 @@ int FSCopy(ustring const& src, ustring const& dst, bool move)
 {
     int in = open(src.c_str(), O_RDONLY | O_CLOEXEC);
     if (in < 0)
-        return PosixError(-1, __LINE__, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", src.c_str(), kErrnoText,
-                          kErrno);
+        return PosixError(-1, __LINE__, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", src.c_str(),
+                          kErrnoText, kErrno);
     int out = open(dst.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     if (out < 0) {
-        PosixError(-1, __LINE__, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", dst.c_str(), kErrnoText,
-                   kErrno);
+        PosixError(-1, __LINE__, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", dst.c_str(),
+                   kErrnoText, kErrno);
         close(in);
         return -1;
     }
@@ -436,15 +440,16 @@ int FSCopy(ustring const& src, ustring const& dst, bool move)
         if (got == 0)
             break;
         if (got < 0) {
-            result = PosixError(-1, __LINE__, "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n", kErrnoText, kErrno);
+            result = PosixError(-1, __LINE__, "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n", kErrnoText,
+                                kErrno);
             break;
         }
         ssize_t written = 0;
         while (written < got) {
             ssize_t n = write(out, buffer + written, static_cast<size_t>(got - written));
             if (n <= 0) {
-                result = PosixError(WriteFailure(errno), __LINE__, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n",
-                                    kErrnoText, kErrno);
+                result = PosixError(WriteFailure(errno), __LINE__,
+                                    "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n", kErrnoText, kErrno);
                 break;
             }
             written += n;
@@ -580,7 +585,8 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry)
         _FILE_INFO_tag record;
         if (FSStat(full, record, true) < 0) {
             Logger::LogMsg(Logger::LEVEL_ERROR, Component(),
-                           "[ERROR] file-op(%d): FSOpenDir: Failed to get info for '%s'\n", __LINE__, full.c_str());
+                           "[ERROR] file-op(%d): FSOpenDir: Failed to get info for '%s'\n", __LINE__,
+                           full.c_str());
             return -1;
         }
         mtime = record.mtime;
@@ -666,9 +672,10 @@ bool IsMSDOS(ustring const& path)
 {
     ustring typeName;
     if (PlatformFileSystemTypeName(path, typeName) != 0)
-        return PosixError(false, __LINE__,
-                          "[ERROR] file-op(%d): IsSupportLargeFile: Failed to get file system info '%s'. %s\n",
-                          path.c_str(), kErrnoText);
+        return PosixError(
+            false, __LINE__,
+            "[ERROR] file-op(%d): IsSupportLargeFile: Failed to get file system info '%s'. %s\n",
+            path.c_str(), kErrnoText);
     if (typeName != ustring("msdos"))
         return false;
     Logger::LogMsg(Logger::LEVEL_WARNING, Component(),
@@ -693,10 +700,10 @@ int FSCreateSymbolicLink(ustring const& target, ustring const& link)
 {
     if (symlink(target.c_str(), link.c_str()) == 0)
         return 0;
-    return PosixError(
-        -1, __LINE__,
-        "[ERROR] file-op(%d): FSCreateSymbolicLink: Failed to create symbolic link '%s' -> '%s' (code: %d, msg: %s)\n",
-        target.c_str(), link.c_str(), kErrno, kErrnoText);
+    return PosixError(-1, __LINE__,
+                      "[ERROR] file-op(%d): FSCreateSymbolicLink: Failed to create symbolic link '%s' -> "
+                      "'%s' (code: %d, msg: %s)\n",
+                      target.c_str(), link.c_str(), kErrno, kErrnoText);
 }
 
 int FSReadSymbolicLink(ustring const& link, ustring& target)
@@ -706,7 +713,8 @@ int FSReadSymbolicLink(ustring const& link, ustring& target)
     ssize_t n = readlink(link.c_str(), buffer, sizeof(buffer));
     if (n < 0)
         return PosixError(-1, __LINE__,
-                          "[ERROR] file-op(%d): FSReadSymbolicLink: Failed to read symbolic link '%s' (code: %d, msg: %s)\n",
+                          "[ERROR] file-op(%d): FSReadSymbolicLink: Failed to read symbolic link '%s' (code: "
+                          "%d, msg: %s)\n",
                           link.c_str(), kErrno, kErrnoText);
     // A full buffer may hold a cut target and has no room for the NUL.
     if (static_cast<size_t>(n) >= sizeof(buffer)) {
@@ -723,6 +731,7 @@ int FSChown(ustring const& path, unsigned int uid, unsigned int gid)
 {
     if (lchown(path.c_str(), uid, gid) == 0)
         return 0;
-    return PosixError(-1, __LINE__, "[ERROR] file-op(%d): FSChown: Failed to chown '%s' (code: %d, msg: %s)\n",
+    return PosixError(-1, __LINE__,
+                      "[ERROR] file-op(%d): FSChown: Failed to chown '%s' (code: %d, msg: %s)\n",
                       path.c_str(), kErrno, kErrnoText);
 }

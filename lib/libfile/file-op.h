@@ -40,7 +40,7 @@ bool operator==(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b);
 bool operator!=(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b);
 
 struct DIR_HANDLE {
-    DIR_HANDLE() : flags(0), dir(nullptr) {}
+    DIR_HANDLE() : flags(0), dir(nullptr) { }
 
     ustring path;
     int32_t flags;  // bit 0: fill size and mtime of every entry
@@ -48,7 +48,7 @@ struct DIR_HANDLE {
 };
 
 struct DIR_ENTRY {
-    DIR_ENTRY() : type(FILE_TYPE_NONE), mtime(0), size(0) {}
+    DIR_ENTRY() : type(FILE_TYPE_NONE), mtime(0), size(0) { }
 
     ustring name;
     int32_t type;

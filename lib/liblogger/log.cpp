@@ -25,8 +25,8 @@ bool IsBlank(unsigned char c)
 
 bool IsKeyByte(unsigned char c)
 {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-           c == '_' || c == '-' || c == '.';
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
+           c == '-' || c == '.';
 }
 
 char* SkipBlanks(char* p)
@@ -68,10 +68,7 @@ const size_t kRotatedNameSize = 1024;
 // ---------------------------------------------------------------------------
 // Config
 
-Config::Config()
-    : keepQuotes(false)
-{
-}
+Config::Config() : keepQuotes(false) { }
 
 int Config::read(const ustring& path)
 {
@@ -197,8 +194,8 @@ int Logger::Initialize(Logger::Type type, const ustring& path, const ustring& le
         // An unreadable or ill-formed switch file leaves the table empty.
         Config config;
         config.read(levelFile);
-        for (std::map<ustring, ustring>::const_iterator it = config.table.begin();
-             it != config.table.end(); ++it) {
+        for (std::map<ustring, ustring>::const_iterator it = config.table.begin(); it != config.table.end();
+             ++it) {
             log_level[it->first] = config.get_int(it->first);
         }
     }
@@ -495,5 +492,6 @@ void Logger::DestroySharedData()
 
 extern "C" void LogMSG_c(int level, char* component, const char* format, va_list args)
 {
-    Logger::LogMsg2(static_cast<Logger::Level>(level), ustring(component != nullptr ? component : ""), format, args);
+    Logger::LogMsg2(static_cast<Logger::Level>(level), ustring(component != nullptr ? component : ""), format,
+                    args);
 }

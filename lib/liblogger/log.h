@@ -6,8 +6,8 @@
 #include <cstdarg>
 #include <cstdint>
 #include <cstdio>
-#include <pthread.h>
 #include <map>
+#include <pthread.h>
 
 #include "libustring/ustring.h"
 

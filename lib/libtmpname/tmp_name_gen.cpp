@@ -13,13 +13,9 @@ TmpNameGen& TmpNameGen::getInstance()
     return tmp_name;
 }
 
-TmpNameGen::TmpNameGen()
-    : TmpNameGen("/dev/urandom")
-{
-}
+TmpNameGen::TmpNameGen() : TmpNameGen("/dev/urandom") { }
 
-TmpNameGen::TmpNameGen(const char* random_device)
-    : random_device(random_device)
+TmpNameGen::TmpNameGen(const char* random_device) : random_device(random_device)
 {
     pthread_mutex_init(&mutex, nullptr);
     memset(state, 0, sizeof(state));
@@ -37,12 +33,10 @@ TmpNameGen::~TmpNameGen()
 ustring TmpNameGen::getTmpName()
 {
     static const char map[64] = {
-        '0', '1', '2', '3', '4', '5', '6', '7', '8', '9',
-        'a', 'b', 'c', 'd', 'e', 'f', 'g', 'h', 'i', 'j', 'k', 'l', 'm',
-        'n', 'o', 'p', 'q', 'r', 's', 't', 'u', 'v', 'w', 'x', 'y', 'z',
-        'A', 'B', 'C', 'D', 'E', 'F', 'G', 'H', 'I', 'J', 'K', 'L', 'M',
-        'N', 'O', 'P', 'Q', 'R', 'S', 'T', 'U', 'V', 'W', 'X', 'Y', 'Z',
-        '-', '_',
+        '0', '1', '2', '3', '4', '5', '6', '7', '8', '9', 'a', 'b', 'c', 'd', 'e', 'f',
+        'g', 'h', 'i', 'j', 'k', 'l', 'm', 'n', 'o', 'p', 'q', 'r', 's', 't', 'u', 'v',
+        'w', 'x', 'y', 'z', 'A', 'B', 'C', 'D', 'E', 'F', 'G', 'H', 'I', 'J', 'K', 'L',
+        'M', 'N', 'O', 'P', 'Q', 'R', 'S', 'T', 'U', 'V', 'W', 'X', 'Y', 'Z', '-', '_',
     };
     char name[9];
     lock();
@@ -88,8 +82,8 @@ void TmpNameGen::get_key(unsigned char* key, unsigned long size)
     // Weak, but names only need to differ, not to be secret.
     struct timeval now;
     gettimeofday(&now, nullptr);
-    snprintf(reinterpret_cast<char*>(key), size, "%lu-%lu",
-             static_cast<unsigned long>(now.tv_sec), static_cast<unsigned long>(now.tv_usec));
+    snprintf(reinterpret_cast<char*>(key), size, "%lu-%lu", static_cast<unsigned long>(now.tv_sec),
+             static_cast<unsigned long>(now.tv_usec));
 }
 
 void TmpNameGen::rc4_init(unsigned char* state, unsigned char* key)

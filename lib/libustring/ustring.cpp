@@ -17,33 +17,41 @@
 namespace {
 
 // ICU's UChar is char16_t in C++; our buffers hold unsigned short.
-UChar* as_uchar(unsigned short* p) { return reinterpret_cast<UChar*>(p); }
+UChar* as_uchar(unsigned short* p)
+{
+    return reinterpret_cast<UChar*>(p);
+}
 
-int32_t icu_capacity(size_t cap) {
+int32_t icu_capacity(size_t cap)
+{
     return cap > static_cast<size_t>(INT32_MAX) ? INT32_MAX : static_cast<int32_t>(cap);
 }
 
 // ICU trouble goes to standard error, not to the log: the logger is built
 // on ustring itself.
-void icu_warning(char const* text, UErrorCode status, int line) {
+void icu_warning(char const* text, UErrorCode status, int line)
+{
     std::cerr << text << static_cast<int>(status) << " at line " << line << std::endl;
 }
 
-size_t bounded_len(char const* s, size_t n) {
+size_t bounded_len(char const* s, size_t n)
+{
     size_t len = 0;
     while (len < n && s[len] != '\0')
         ++len;
     return len;
 }
 
-size_t bounded_len(unsigned short const* s, size_t n) {
+size_t bounded_len(unsigned short const* s, size_t n)
+{
     size_t len = 0;
     while (len < n && s[len] != 0)
         ++len;
     return len;
 }
 
-size_t checked_need(size_t len, size_t extra) {
+size_t checked_need(size_t len, size_t extra)
+{
     if (extra > static_cast<size_t>(-1) - 1 - len)
         throw std::bad_alloc();
     return len + extra + 1;
@@ -52,7 +60,8 @@ size_t checked_need(size_t len, size_t extra) {
 struct ByteSet {
     bool in[256];
     bool empty;
-    explicit ByteSet(char const* set) : in(), empty(true) {
+    explicit ByteSet(char const* set) : in(), empty(true)
+    {
         if (set == nullptr)
             return;
         for (unsigned char const* p = reinterpret_cast<unsigned char const*>(set); *p; ++p) {
@@ -63,7 +72,8 @@ struct ByteSet {
     bool has(char c) const { return in[static_cast<unsigned char>(c)]; }
 };
 
-unsigned char fold_ascii(char c) {
+unsigned char fold_ascii(char c)
+{
     unsigned char u = static_cast<unsigned char>(c);
     return (u >= 'A' && u <= 'Z') ? static_cast<unsigned char>(u - 'A' + 'a') : u;
 }
@@ -71,7 +81,7 @@ unsigned char fold_ascii(char c) {
 // A single char as a needle or set: the byte 0 stands for the empty one.
 struct CharNeedle {
     char buf[2];
-    explicit CharNeedle(char c) : buf{c, '\0'} {}
+    explicit CharNeedle(char c) : buf{c, '\0'} { }
     char const* str() const { return buf; }
 };
 
@@ -79,41 +89,51 @@ struct CharNeedle {
 
 // ---- life cycle ----
 
-ustring::ustring() { init(); }
+ustring::ustring()
+{
+    init();
+}
 
-ustring::ustring(ustring const& s) {
+ustring::ustring(ustring const& s)
+{
     init();
     append(s, 0, npos);
 }
 
-ustring::ustring(char const* s) {
+ustring::ustring(char const* s)
+{
     init();
     append(s);
 }
 
-ustring::ustring(unsigned short const* s) {
+ustring::ustring(unsigned short const* s)
+{
     init();
     append(s);
 }
 
-ustring::ustring(std::string const& s) {
+ustring::ustring(std::string const& s)
+{
     init();
     append(s.c_str());
 }
 
-ustring::ustring(char c) {
+ustring::ustring(char c)
+{
     init();
     append(c, 1);
 }
 
-ustring::~ustring() {
+ustring::~ustring()
+{
     free(data);
     data = nullptr;
     free(wdata);
     wdata = nullptr;
 }
 
-void ustring::init() {
+void ustring::init()
+{
     data = nullptr;
     wdata = nullptr;
     data_len = 0;
@@ -137,7 +157,8 @@ void ustring::init() {
 
 // Keep the buffer while it holds n and is at most twice n; otherwise make
 // it exactly n. Growth is deliberately not geometric.
-void ustring::realloc_data(size_t n) {
+void ustring::realloc_data(size_t n)
+{
     if (data_cap >= n && data_cap / 2 <= n)
         return;
     char* p = static_cast<char*>(realloc(data, n));
@@ -147,7 +168,8 @@ void ustring::realloc_data(size_t n) {
     data_cap = n;
 }
 
-void ustring::realloc_wdata(size_t n) const {
+void ustring::realloc_wdata(size_t n) const
+{
     if (wdata_cap >= n && wdata_cap / 2 <= n)
         return;
     if (n > static_cast<size_t>(-1) / sizeof(unsigned short))
@@ -159,7 +181,8 @@ void ustring::realloc_wdata(size_t n) const {
     wdata_cap = n;
 }
 
-int ustring::convert_from_data() const {
+int ustring::convert_from_data() const
+{
     UErrorCode status = U_ZERO_ERROR;
     int32_t len = 0;
     u_strFromUTF8(nullptr, 0, &len, data, -1, &status);
@@ -179,7 +202,8 @@ int ustring::convert_from_data() const {
     return 0;
 }
 
-int ustring::convert_from_wdata() {
+int ustring::convert_from_wdata()
+{
     UErrorCode status = U_ZERO_ERROR;
     int32_t len = 0;
     u_strToUTF8(nullptr, 0, &len, as_uchar(wdata), -1, &status);
@@ -201,19 +225,22 @@ int ustring::convert_from_wdata() {
     return 0;
 }
 
-void ustring::mark_wdata_stale() const {
+void ustring::mark_wdata_stale() const
+{
     wdata_len = 0;
     wdata[0] = 0;
 }
 
-void ustring::ensure_wdata() const {
+void ustring::ensure_wdata() const
+{
     if (wdata_len == 0 && data_len != 0)
         convert_from_data();
 }
 
 // Appends exactly len bytes. The source may lie in our own buffer: it is
 // found again by offset after the buffer has moved.
-void ustring::append_bytes(char const* s, size_t len) {
+void ustring::append_bytes(char const* s, size_t len)
+{
     size_t need = checked_need(data_len, len);
     std::less<char const*> before;
     bool own = !before(s, data) && before(s, data + data_cap);
@@ -228,7 +255,8 @@ void ustring::append_bytes(char const* s, size_t len) {
     mark_wdata_stale();
 }
 
-void ustring::append_units(unsigned short const* s, size_t n) {
+void ustring::append_units(unsigned short const* s, size_t n)
+{
     bool own = s == wdata;
     ensure_wdata();
     if (own)
@@ -247,35 +275,40 @@ void ustring::append_units(unsigned short const* s, size_t n) {
 
 // ---- appending ----
 
-ustring& ustring::append(char const* s) {
+ustring& ustring::append(char const* s)
+{
     if (s == nullptr)
         return *this;
     append_bytes(s, strlen(s));
     return *this;
 }
 
-ustring& ustring::append(char const* s, size_t n) {
+ustring& ustring::append(char const* s, size_t n)
+{
     if (s == nullptr)
         return *this;
     append_bytes(s, bounded_len(s, n));
     return *this;
 }
 
-ustring& ustring::append(unsigned short const* s) {
+ustring& ustring::append(unsigned short const* s)
+{
     if (s == nullptr)
         return *this;
     append_units(s, npos);
     return *this;
 }
 
-ustring& ustring::append(unsigned short const* s, size_t n) {
+ustring& ustring::append(unsigned short const* s, size_t n)
+{
     if (s == nullptr)
         return *this;
     append_units(s, n);
     return *this;
 }
 
-ustring& ustring::append(char c, size_t n) {
+ustring& ustring::append(char c, size_t n)
+{
     realloc_data(checked_need(data_len, n));
     memset(data + data_len, static_cast<unsigned char>(c), n);
     data_len += n;
@@ -284,7 +317,8 @@ ustring& ustring::append(char c, size_t n) {
     return *this;
 }
 
-ustring& ustring::append(unsigned short c, size_t n) {
+ustring& ustring::append(unsigned short c, size_t n)
+{
     ensure_wdata();
     realloc_wdata(checked_need(wdata_len, n));
     for (size_t i = 0; i < n; ++i)
@@ -295,7 +329,8 @@ ustring& ustring::append(unsigned short c, size_t n) {
     return *this;
 }
 
-ustring& ustring::append(ustring const& s, size_t pos, size_t n) {
+ustring& ustring::append(ustring const& s, size_t pos, size_t n)
+{
     if (pos > s.data_len)
         throw std::out_of_range("substr");
     size_t len = s.data_len - pos;
@@ -305,21 +340,24 @@ ustring& ustring::append(ustring const& s, size_t pos, size_t n) {
     return *this;
 }
 
-ustring& ustring::append(std::string const& s, size_t pos, size_t n) {
+ustring& ustring::append(std::string const& s, size_t pos, size_t n)
+{
     std::string part = s.substr(pos, n);
     return append(part.c_str());
 }
 
 // ---- assigning ----
 
-ustring& ustring::assign(char const* s) {
+ustring& ustring::assign(char const* s)
+{
     if (s == data)
         return *this;
     clear();
     return append(s);
 }
 
-ustring& ustring::assign(char const* s, size_t n) {
+ustring& ustring::assign(char const* s, size_t n)
+{
     if (s == data) {
         if (n < data_len) {
             data_len = n;
@@ -332,14 +370,16 @@ ustring& ustring::assign(char const* s, size_t n) {
     return append(s, n);
 }
 
-ustring& ustring::assign(unsigned short const* s) {
+ustring& ustring::assign(unsigned short const* s)
+{
     if (s == wdata)
         return *this;
     clear();
     return append(s);
 }
 
-ustring& ustring::assign(unsigned short const* s, size_t n) {
+ustring& ustring::assign(unsigned short const* s, size_t n)
+{
     if (s == wdata) {
         if (n < wdata_len) {
             wdata_len = n;
@@ -352,17 +392,20 @@ ustring& ustring::assign(unsigned short const* s, size_t n) {
     return append(s, n);
 }
 
-ustring& ustring::assign(char c, size_t n) {
+ustring& ustring::assign(char c, size_t n)
+{
     clear();
     return append(c, n);
 }
 
-ustring& ustring::assign(unsigned short c, size_t n) {
+ustring& ustring::assign(unsigned short c, size_t n)
+{
     clear();
     return append(c, n);
 }
 
-ustring& ustring::assign(ustring const& s, size_t pos, size_t n) {
+ustring& ustring::assign(ustring const& s, size_t pos, size_t n)
+{
     if (&s == this) {
         ustring part = substr(pos, n);
         return assign(part, 0, npos);
@@ -373,46 +416,90 @@ ustring& ustring::assign(ustring const& s, size_t pos, size_t n) {
     return append(s, pos, n);
 }
 
-ustring& ustring::assign(std::string const& s, size_t pos, size_t n) {
+ustring& ustring::assign(std::string const& s, size_t pos, size_t n)
+{
     std::string part = s.substr(pos, n);
     clear();
     return append(part.c_str());
 }
 
-ustring& ustring::operator+=(ustring const& s) { return append(s, 0, npos); }
-ustring& ustring::operator+=(std::string const& s) { return append(s, 0, npos); }
-ustring& ustring::operator+=(char const* s) { return append(s); }
-ustring& ustring::operator+=(unsigned short const* s) { return append(s); }
-ustring& ustring::operator+=(char c) { return append(c, 1); }
-ustring& ustring::operator+=(unsigned short c) { return append(c, 1); }
+ustring& ustring::operator+=(ustring const& s)
+{
+    return append(s, 0, npos);
+}
+ustring& ustring::operator+=(std::string const& s)
+{
+    return append(s, 0, npos);
+}
+ustring& ustring::operator+=(char const* s)
+{
+    return append(s);
+}
+ustring& ustring::operator+=(unsigned short const* s)
+{
+    return append(s);
+}
+ustring& ustring::operator+=(char c)
+{
+    return append(c, 1);
+}
+ustring& ustring::operator+=(unsigned short c)
+{
+    return append(c, 1);
+}
 
-ustring& ustring::operator=(ustring const& s) { return assign(s, 0, npos); }
-ustring& ustring::operator=(std::string const& s) { return assign(s, 0, npos); }
-ustring& ustring::operator=(char const* s) { return assign(s); }
-ustring& ustring::operator=(unsigned short const* s) { return assign(s); }
-ustring& ustring::operator=(char c) { return assign(c, 1); }
-ustring& ustring::operator=(unsigned short c) { return assign(c, 1); }
+ustring& ustring::operator=(ustring const& s)
+{
+    return assign(s, 0, npos);
+}
+ustring& ustring::operator=(std::string const& s)
+{
+    return assign(s, 0, npos);
+}
+ustring& ustring::operator=(char const* s)
+{
+    return assign(s);
+}
+ustring& ustring::operator=(unsigned short const* s)
+{
+    return assign(s);
+}
+ustring& ustring::operator=(char c)
+{
+    return assign(c, 1);
+}
+ustring& ustring::operator=(unsigned short c)
+{
+    return assign(c, 1);
+}
 
-void ustring::clear() {
+void ustring::clear()
+{
     clear_data();
     clear_wdata();
 }
 
-void ustring::clear_data() {
+void ustring::clear_data()
+{
     data_len = 0;
     data[0] = '\0';
 }
 
-void ustring::clear_wdata() const { mark_wdata_stale(); }
+void ustring::clear_wdata() const
+{
+    mark_wdata_stale();
+}
 
 // ---- access ----
 
-unsigned short const* ustring::c_str_utf16() const {
+unsigned short const* ustring::c_str_utf16() const
+{
     ensure_wdata();
     return wdata;
 }
 
-ustring ustring::substr(size_t pos, size_t n) const {
+ustring ustring::substr(size_t pos, size_t n) const
+{
     if (pos > data_len)
         throw std::out_of_range("substr");
     size_t len = data_len - pos;
@@ -423,7 +510,8 @@ ustring ustring::substr(size_t pos, size_t n) const {
     return r;
 }
 
-void ustring::swap(ustring& other) {
+void ustring::swap(ustring& other)
+{
     std::swap(data, other.data);
     std::swap(data_len, other.data_len);
     std::swap(data_cap, other.data_cap);
@@ -435,7 +523,8 @@ void ustring::swap(ustring& other) {
 // ---- searching ----
 // Needles and sets are taken up to their first NUL, and so is the text.
 
-size_t ustring::find(char const* s, size_t pos) const {
+size_t ustring::find(char const* s, size_t pos) const
+{
     if (pos >= data_len)
         return npos;
     if (s == nullptr || *s == '\0')
@@ -444,7 +533,8 @@ size_t ustring::find(char const* s, size_t pos) const {
     return hit ? static_cast<size_t>(hit - data) : npos;
 }
 
-size_t ustring::rfind(char const* s, size_t pos) const {
+size_t ustring::rfind(char const* s, size_t pos) const
+{
     if (data_len == 0)
         return npos;
     size_t start = (pos >= data_len) ? data_len - 1 : pos;
@@ -465,7 +555,8 @@ size_t ustring::rfind(char const* s, size_t pos) const {
     }
 }
 
-size_t ustring::find_first_of(char const* s, size_t pos) const {
+size_t ustring::find_first_of(char const* s, size_t pos) const
+{
     if (pos >= data_len)
         return npos;
     ByteSet set(s);
@@ -477,7 +568,8 @@ size_t ustring::find_first_of(char const* s, size_t pos) const {
     return npos;
 }
 
-size_t ustring::find_first_not_of(char const* s, size_t pos) const {
+size_t ustring::find_first_not_of(char const* s, size_t pos) const
+{
     if (pos >= data_len)
         return npos;
     ByteSet set(s);
@@ -489,7 +581,8 @@ size_t ustring::find_first_not_of(char const* s, size_t pos) const {
     return npos;
 }
 
-size_t ustring::find_last_of(char const* s, size_t pos) const {
+size_t ustring::find_last_of(char const* s, size_t pos) const
+{
     if (data_len == 0)
         return npos;
     ByteSet set(s);
@@ -509,7 +602,8 @@ size_t ustring::find_last_of(char const* s, size_t pos) const {
     }
 }
 
-size_t ustring::find_last_not_of(char const* s, size_t pos) const {
+size_t ustring::find_last_not_of(char const* s, size_t pos) const
+{
     if (data_len == 0)
         return npos;
     size_t start = (pos >= data_len) ? data_len - 1 : pos;
@@ -528,41 +622,88 @@ size_t ustring::find_last_not_of(char const* s, size_t pos) const {
     }
 }
 
-size_t ustring::find(std::string const& s, size_t pos) const { return find(s.c_str(), pos); }
-size_t ustring::find(ustring const& s, size_t pos) const { return find(s.data, pos); }
-size_t ustring::find(char c, size_t pos) const { return find(CharNeedle(c).str(), pos); }
+size_t ustring::find(std::string const& s, size_t pos) const
+{
+    return find(s.c_str(), pos);
+}
+size_t ustring::find(ustring const& s, size_t pos) const
+{
+    return find(s.data, pos);
+}
+size_t ustring::find(char c, size_t pos) const
+{
+    return find(CharNeedle(c).str(), pos);
+}
 
-size_t ustring::rfind(std::string const& s, size_t pos) const { return rfind(s.c_str(), pos); }
-size_t ustring::rfind(ustring const& s, size_t pos) const { return rfind(s.data, pos); }
-size_t ustring::rfind(char c, size_t pos) const { return rfind(CharNeedle(c).str(), pos); }
+size_t ustring::rfind(std::string const& s, size_t pos) const
+{
+    return rfind(s.c_str(), pos);
+}
+size_t ustring::rfind(ustring const& s, size_t pos) const
+{
+    return rfind(s.data, pos);
+}
+size_t ustring::rfind(char c, size_t pos) const
+{
+    return rfind(CharNeedle(c).str(), pos);
+}
 
-size_t ustring::find_first_of(std::string const& s, size_t pos) const { return find_first_of(s.c_str(), pos); }
-size_t ustring::find_first_of(ustring const& s, size_t pos) const { return find_first_of(s.data, pos); }
-size_t ustring::find_first_of(char c, size_t pos) const { return find_first_of(CharNeedle(c).str(), pos); }
+size_t ustring::find_first_of(std::string const& s, size_t pos) const
+{
+    return find_first_of(s.c_str(), pos);
+}
+size_t ustring::find_first_of(ustring const& s, size_t pos) const
+{
+    return find_first_of(s.data, pos);
+}
+size_t ustring::find_first_of(char c, size_t pos) const
+{
+    return find_first_of(CharNeedle(c).str(), pos);
+}
 
-size_t ustring::find_first_not_of(std::string const& s, size_t pos) const {
+size_t ustring::find_first_not_of(std::string const& s, size_t pos) const
+{
     return find_first_not_of(s.c_str(), pos);
 }
-size_t ustring::find_first_not_of(ustring const& s, size_t pos) const { return find_first_not_of(s.data, pos); }
-size_t ustring::find_first_not_of(char c, size_t pos) const {
+size_t ustring::find_first_not_of(ustring const& s, size_t pos) const
+{
+    return find_first_not_of(s.data, pos);
+}
+size_t ustring::find_first_not_of(char c, size_t pos) const
+{
     return find_first_not_of(CharNeedle(c).str(), pos);
 }
 
-size_t ustring::find_last_of(std::string const& s, size_t pos) const { return find_last_of(s.c_str(), pos); }
-size_t ustring::find_last_of(ustring const& s, size_t pos) const { return find_last_of(s.data, pos); }
-size_t ustring::find_last_of(char c, size_t pos) const { return find_last_of(CharNeedle(c).str(), pos); }
+size_t ustring::find_last_of(std::string const& s, size_t pos) const
+{
+    return find_last_of(s.c_str(), pos);
+}
+size_t ustring::find_last_of(ustring const& s, size_t pos) const
+{
+    return find_last_of(s.data, pos);
+}
+size_t ustring::find_last_of(char c, size_t pos) const
+{
+    return find_last_of(CharNeedle(c).str(), pos);
+}
 
-size_t ustring::find_last_not_of(std::string const& s, size_t pos) const {
+size_t ustring::find_last_not_of(std::string const& s, size_t pos) const
+{
     return find_last_not_of(s.c_str(), pos);
 }
-size_t ustring::find_last_not_of(ustring const& s, size_t pos) const { return find_last_not_of(s.data, pos); }
-size_t ustring::find_last_not_of(char c, size_t pos) const {
+size_t ustring::find_last_not_of(ustring const& s, size_t pos) const
+{
+    return find_last_not_of(s.data, pos);
+}
+size_t ustring::find_last_not_of(char c, size_t pos) const
+{
     return find_last_not_of(CharNeedle(c).str(), pos);
 }
 
 // ---- trimming and replacing ----
 
-void ustring::ltrim(char const* s) {
+void ustring::ltrim(char const* s)
+{
     ByteSet set(s);
     if (data_len == 0 || set.empty)
         return;
@@ -576,7 +717,8 @@ void ustring::ltrim(char const* s) {
     mark_wdata_stale();
 }
 
-void ustring::rtrim(char const* s) {
+void ustring::rtrim(char const* s)
+{
     ByteSet set(s);
     if (data_len == 0 || set.empty)
         return;
@@ -590,16 +732,27 @@ void ustring::rtrim(char const* s) {
     mark_wdata_stale();
 }
 
-void ustring::trim(char const* s) {
+void ustring::trim(char const* s)
+{
     rtrim(s);
     ltrim(s);
 }
 
-void ustring::ltrim(ustring const& set) { ltrim(set.data); }
-void ustring::rtrim(ustring const& set) { rtrim(set.data); }
-void ustring::trim(ustring const& set) { trim(set.data); }
+void ustring::ltrim(ustring const& set)
+{
+    ltrim(set.data);
+}
+void ustring::rtrim(ustring const& set)
+{
+    rtrim(set.data);
+}
+void ustring::trim(ustring const& set)
+{
+    trim(set.data);
+}
 
-void ustring::replace(char from, char to) {
+void ustring::replace(char from, char to)
+{
     for (size_t i = 0; i < data_len; ++i)
         if (data[i] == from)
             data[i] = to;
@@ -608,7 +761,8 @@ void ustring::replace(char from, char to) {
 
 // ---- comparing ----
 
-int ustring::compare(ustring const& b) const {
+int ustring::compare(ustring const& b) const
+{
     unsigned char const* x = reinterpret_cast<unsigned char const*>(data);
     unsigned char const* y = reinterpret_cast<unsigned char const*>(b.data);
     while (*x != 0 && *x == *y) {
@@ -618,7 +772,8 @@ int ustring::compare(ustring const& b) const {
     return static_cast<int>(*x) - static_cast<int>(*y);
 }
 
-int ustring::compare(ustring const& b, size_t n) const {
+int ustring::compare(ustring const& b, size_t n) const
+{
     unsigned char const* x = reinterpret_cast<unsigned char const*>(data);
     unsigned char const* y = reinterpret_cast<unsigned char const*>(b.data);
     for (size_t i = 0; i < n; ++i) {
@@ -628,7 +783,8 @@ int ustring::compare(ustring const& b, size_t n) const {
     return 0;
 }
 
-int ustring::compare(ustring const& a, ustring const& b, bool ignore_case) {
+int ustring::compare(ustring const& a, ustring const& b, bool ignore_case)
+{
     if (!ignore_case)
         return a.compare(b);
     for (size_t i = 0;; ++i) {
@@ -641,7 +797,8 @@ int ustring::compare(ustring const& a, ustring const& b, bool ignore_case) {
 
 // ---- validation and normalisation ----
 
-bool ustring::is_valid(ustring const& s) {
+bool ustring::is_valid(ustring const& s)
+{
     if (s.data_len == 0)
         return true;
     UErrorCode status = U_ZERO_ERROR;
@@ -651,7 +808,8 @@ bool ustring::is_valid(ustring const& s) {
     return status != U_INVALID_CHAR_FOUND;
 }
 
-ustring ustring::normalize(ustring const& s, normalization_form f) {
+ustring ustring::normalize(ustring const& s, normalization_form f)
+{
     ustring r;
     if (s.data_len == 0)
         return r;
@@ -682,55 +840,86 @@ ustring ustring::normalize(ustring const& s, normalization_form f) {
     return r;
 }
 
-ustring ustring::normalize(normalization_form f) const { return normalize(*this, f); }
+ustring ustring::normalize(normalization_form f) const
+{
+    return normalize(*this, f);
+}
 
 // ---- free operators ----
 
-ustring operator+(ustring const& a, ustring const& b) {
+ustring operator+(ustring const& a, ustring const& b)
+{
     ustring r(a);
     r.append(b, 0, ustring::npos);
     return r;
 }
 
-ustring operator+(ustring const& a, char const* b) {
+ustring operator+(ustring const& a, char const* b)
+{
     ustring r(a);
     r.append(b);
     return r;
 }
 
-ustring operator+(ustring const& a, char b) {
+ustring operator+(ustring const& a, char b)
+{
     ustring r(a);
     r.append(b, 1);
     return r;
 }
 
-ustring operator+(ustring const& a, unsigned short const* b) {
+ustring operator+(ustring const& a, unsigned short const* b)
+{
     ustring r(a);
     r.append(b);
     return r;
 }
 
-ustring operator+(ustring const& a, unsigned short b) {
+ustring operator+(ustring const& a, unsigned short b)
+{
     ustring r(a);
     r.append(b, 1);
     return r;
 }
 
-bool operator==(ustring const& a, ustring const& b) {
+bool operator==(ustring const& a, ustring const& b)
+{
     return a.length() == b.length() && memcmp(a.c_str(), b.c_str(), a.length()) == 0;
 }
 
-bool operator!=(ustring const& a, ustring const& b) { return !(a == b); }
-bool operator<(ustring const& a, ustring const& b) { return a.compare(b) < 0; }
-bool operator>(ustring const& a, ustring const& b) { return a.compare(b) > 0; }
-bool operator<=(ustring const& a, ustring const& b) { return a.compare(b) <= 0; }
-bool operator>=(ustring const& a, ustring const& b) { return a.compare(b) >= 0; }
+bool operator!=(ustring const& a, ustring const& b)
+{
+    return !(a == b);
+}
+bool operator<(ustring const& a, ustring const& b)
+{
+    return a.compare(b) < 0;
+}
+bool operator>(ustring const& a, ustring const& b)
+{
+    return a.compare(b) > 0;
+}
+bool operator<=(ustring const& a, ustring const& b)
+{
+    return a.compare(b) <= 0;
+}
+bool operator>=(ustring const& a, ustring const& b)
+{
+    return a.compare(b) >= 0;
+}
 
-void swap(ustring& a, ustring& b) { a.swap(b); }
+void swap(ustring& a, ustring& b)
+{
+    a.swap(b);
+}
 
-std::ostream& operator<<(std::ostream& os, ustring const& s) { return os << s.c_str(); }
+std::ostream& operator<<(std::ostream& os, ustring const& s)
+{
+    return os << s.c_str();
+}
 
-std::istream& operator>>(std::istream& is, ustring& s) {
+std::istream& operator>>(std::istream& is, ustring& s)
+{
     std::string word;
     if (is >> word)
         s.assign(word, 0, std::string::npos);

@@ -42,7 +42,7 @@ const int kMaxLinks = 40;  // as the kernel's own lookup allows
 // The volume of the folder last examined, so that a walk down one volume
 // asks statfs only once.
 struct VolumeCache {
-    VolumeCache() : known(false), dev(0), type(0) {}
+    VolumeCache() : known(false), dev(0), type(0) { }
     bool known;
     dev_t dev;
     uint32_t type;
@@ -320,7 +320,8 @@ int PlatformFileSystemTypeName(const ustring& path, ustring& typeName)
     default: {
         // A name no caller compares against: the number itself.
         char number[32];
-        snprintf(number, sizeof(number), "0x%lx", static_cast<unsigned long>(static_cast<uint32_t>(sfs.f_type)));
+        snprintf(number, sizeof(number), "0x%lx",
+                 static_cast<unsigned long>(static_cast<uint32_t>(sfs.f_type)));
         typeName = number;
         break;
     }
@@ -422,7 +423,8 @@ bool PlatformProcessRuns(pid_t pid, const ustring& executable)
     const std::string deleted = " (deleted)";
     const std::string proc = "/proc/" + std::to_string(pid);
     struct stat st;
-    if (exe.size() > deleted.size() && exe.compare(exe.size() - deleted.size(), deleted.size(), deleted) == 0 &&
+    if (exe.size() > deleted.size() &&
+        exe.compare(exe.size() - deleted.size(), deleted.size(), deleted) == 0 &&
         stat((proc + "/exe").c_str(), &st) == 0 && st.st_nlink == 0)
         return exe.compare(0, exe.size() - deleted.size(), wanted) == 0;
 
@@ -431,7 +433,8 @@ bool PlatformProcessRuns(pid_t pid, const ustring& executable)
     const std::string interpreter = ScriptInterpreter(wanted);
     if (interpreter.empty())
         return false;
-    const bool viaEnv = interpreter.size() >= 4 && interpreter.compare(interpreter.size() - 4, 4, "/env") == 0;
+    const bool viaEnv =
+        interpreter.size() >= 4 && interpreter.compare(interpreter.size() - 4, 4, "/env") == 0;
     if (!viaEnv && RealPath(interpreter) != exe)
         return false;
     std::string cmdline;

@@ -160,12 +160,10 @@ bool StartDetached(const std::string& executable)
 
     close(fds[1]);
     int status = 0;
-    while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
-    }
+    while (waitpid(child, &status, 0) < 0 && errno == EINTR) { }
     int err = 0;
     ssize_t n;
-    while ((n = read(fds[0], &err, sizeof(err))) < 0 && errno == EINTR) {
-    }
+    while ((n = read(fds[0], &err, sizeof(err))) < 0 && errno == EINTR) { }
     close(fds[0]);
     return n == 0;
 }
@@ -205,8 +203,7 @@ int PlatformForgetBundle(const ustring& bundle)
         return -2;
     int status = 0;
     pid_t done;
-    while ((done = waitpid(pid, &status, 0)) < 0 && errno == EINTR) {
-    }
+    while ((done = waitpid(pid, &status, 0)) < 0 && errno == EINTR) { }
     if (done < 0 || !WIFEXITED(status))
         return -1;
     return WEXITSTATUS(status);

@@ -23,8 +23,8 @@ int PlatformResolvePath(const ustring& path, bool followLeaf, ustring& resolved)
     const UInt8* in = reinterpret_cast<const UInt8*>(path.c_str());
     FSRef ref;
     OSStatus status = followLeaf
-        ? FSPathMakeRef(in, &ref, nullptr)
-        : FSPathMakeRefWithOptions(in, kFSPathMakeRefDoNotFollowLeafSymlink, &ref, nullptr);
+                          ? FSPathMakeRef(in, &ref, nullptr)
+                          : FSPathMakeRefWithOptions(in, kFSPathMakeRefDoNotFollowLeafSymlink, &ref, nullptr);
     if (status != noErr)
         return static_cast<int>(status);
     UInt8 buffer[4096];

@@ -11,8 +11,8 @@
 
 namespace {
 
-const char* const kDefaultTool =
-    "/System/Library/Frameworks/CoreServices.framework/Frameworks/LaunchServices.framework/Support/lsregister";
+const char* const kDefaultTool = "/System/Library/Frameworks/CoreServices.framework/Frameworks/"
+                                 "LaunchServices.framework/Support/lsregister";
 
 ustring& RegistrationTool()
 {

@@ -14,27 +14,34 @@
 
 namespace fs = std::filesystem;
 
-inline int OpenDescriptors() { return static_cast<int>(std::distance(fs::directory_iterator("/proc/self/fd"), {})); }
+inline int OpenDescriptors()
+{
+    return static_cast<int>(std::distance(fs::directory_iterator("/proc/self/fd"), {}));
+}
 
 class FolderTest : public ::testing::Test {
 protected:
-    void SetUp() override {
+    void SetUp() override
+    {
         std::string tmpl = (fs::temp_directory_path() / "nimbulo-lib.XXXXXX").string();
         ASSERT_NE(mkdtemp(&tmpl[0]), nullptr);
         dir = fs::canonical(tmpl).string();
         fds = OpenDescriptors();
     }
-    void TearDown() override {
+    void TearDown() override
+    {
         EXPECT_EQ(fds, OpenDescriptors()) << "a descriptor was left open";
         if (!HasFailure())
             fs::remove_all(dir);
     }
     std::string P(const std::string& rest) const { return dir + "/" + rest; }
-    static void Write(const std::string& path, const std::string& data) {
+    static void Write(const std::string& path, const std::string& data)
+    {
         fs::create_directories(fs::path(path).parent_path());
         std::ofstream(path, std::ios::binary) << data;
     }
-    static std::string Read(const std::string& path) {
+    static std::string Read(const std::string& path)
+    {
         std::ifstream in(path, std::ios::binary);
         return std::string(std::istreambuf_iterator<char>(in), {});
     }

@@ -189,8 +189,9 @@ void SampleClient::Record(const char* event)
     // One write() per line on an O_APPEND descriptor: lines of several
     // clients never interleave.
     QByteArray line = QByteArray(event) + " pid=" + QByteArray::number(QCoreApplication::applicationPid()) +
-                      " build=" + build.toUtf8() + " present=" + (ExeInode(exePath) == gExeInode ? "1" : "0") +
-                      " fds=" + gStartFds + " exe=" + exePath.toUtf8() + "\n";
+                      " build=" + build.toUtf8() +
+                      " present=" + (ExeInode(exePath) == gExeInode ? "1" : "0") + " fds=" + gStartFds +
+                      " exe=" + exePath.toUtf8() + "\n";
     int fd = open(recordPath.constData(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
     if (fd < 0) {
         return;

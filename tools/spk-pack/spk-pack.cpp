@@ -16,10 +16,10 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <cerrno>
 #include <clocale>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <ctime>
 #include <filesystem>
@@ -54,8 +54,8 @@ const char* const kClientPath = "Contents/MacOS/nimbulo-pelora-ui";
 const char* const kVersionPath = "Contents/Resources/INFO";
 
 struct Item {
-    std::string rel;   // "Contents/Info.plist": no "./", no leading "/"
-    fs::path path;     // where it lies on disk
+    std::string rel;  // "Contents/Info.plist": no "./", no leading "/"
+    fs::path path;    // where it lies on disk
 };
 
 int Rank(const std::string& rel)
@@ -79,7 +79,8 @@ bool EntryLess(const Item& x, const Item& y)
     }
     fs::path px(x.rel);
     fs::path py(y.rel);
-    return std::lexicographical_compare(px.begin(), px.end(), py.begin(), py.end(),
+    return std::lexicographical_compare(
+        px.begin(), px.end(), py.begin(), py.end(),
         [](const fs::path& a, const fs::path& b) { return a.native() < b.native(); });
 }
 

@@ -8,8 +8,8 @@
 #include <iostream>
 
 #include "liblogger/log.h"
-#include "notify-adapter.h"
 #include "locale/str-table.h"
+#include "notify-adapter.h"
 
 namespace {
 
@@ -94,15 +94,16 @@ int Extractor::Extract()
 {
     if (archivePath.empty() || destination.empty())
         return Failed("[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n", __LINE__,
-                   archivePath.c_str(), destination.c_str());
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n",
+                   __LINE__, archivePath.c_str(), destination.c_str());
 
     Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(457));
 
     // The archive is read twice: the progress bar needs the total first.
     const int total = Count();
     if (total < 1)
-        return Failed("[ERROR] extractor(%d): Failed to calculate total file numbers, ret: %d\n", __LINE__, total);
+        return Failed("[ERROR] extractor(%d): Failed to calculate total file numbers, ret: %d\n", __LINE__,
+                      total);
 
     Handles h;
     h.reader = archive_read_new();
@@ -111,8 +112,8 @@ int Extractor::Extract()
         return Failed("[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
     archive_write_disk_set_options(h.writer, kWriteOptions);
     if (OpenPackage(h.reader, archivePath) != ARCHIVE_OK)
-        return Failed("[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n", __LINE__, archivePath.c_str(),
-                      ErrorText(h.reader));
+        return Failed("[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n", __LINE__,
+                      archivePath.c_str(), ErrorText(h.reader));
 
     // Every result but ARCHIVE_OK fails below, ARCHIVE_WARN included: the
     // installation is exactly what the package holds, or it is rolled back.
@@ -181,7 +182,8 @@ int Extractor::List()
 int Extractor::copy_data(archive* ar, archive* aw)
 {
     if (ar == nullptr || aw == nullptr) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] extractor(%d): Invalid Argument\n",
+                       __LINE__);
         return -1;
     }
     for (;;) {
@@ -194,12 +196,14 @@ int Extractor::copy_data(archive* ar, archive* aw)
         }
         if (ret != ARCHIVE_OK) {
             Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n", __LINE__, ErrorText(ar));
+                           "[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n", __LINE__,
+                           ErrorText(ar));
             return -1;
         }
         if (archive_write_data_block(aw, buffer, size, offset) != 0) {
             Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n", __LINE__, ErrorText(aw));
+                           "[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n", __LINE__,
+                           ErrorText(aw));
             return -1;
         }
     }

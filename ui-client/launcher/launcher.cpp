@@ -10,8 +10,8 @@
 #include <QPixmap>
 
 #include "liblogger/log.h"
-#include "mac/mac-service.h"
 #include "locale/str-table.h"
+#include "mac/mac-service.h"
 
 namespace {
 
@@ -35,7 +35,7 @@ static_assert(sizeof(kDialogStyle) - 1 == 77, "the dialog's style sheet is 77 ch
 // The dialog's own handlers stay untouched.
 class DismissGuard : public QObject {
 public:
-    explicit DismissGuard(QObject* parent) : QObject(parent), keepAlive(new QEventLoopLocker) {}
+    explicit DismissGuard(QObject* parent) : QObject(parent), keepAlive(new QEventLoopLocker) { }
     ~DismissGuard() override { delete keepAlive; }
 
 protected:
@@ -60,9 +60,9 @@ private:
 
 }  // namespace
 
-HandlerThread::HandlerThread() : QThread(nullptr) {}
+HandlerThread::HandlerThread() : QThread(nullptr) { }
 
-HandlerThread::~HandlerThread() {}
+HandlerThread::~HandlerThread() { }
 
 void HandlerThread::run()
 {
@@ -113,10 +113,12 @@ void Worker::HandleServicce()
             emit sigSetLabelText(StrTable::LoadStr(456));
         } else {
             // The dialog keeps its last value and text; no error is shown.
-            Logger::LogMsg(Logger::LEVEL_ERROR, "launcher_debug", "[ERROR] launcher(%d): Failed to upgrade package\n", __LINE__);
+            Logger::LogMsg(Logger::LEVEL_ERROR, "launcher_debug",
+                           "[ERROR] launcher(%d): Failed to upgrade package\n", __LINE__);
         }
     } else {
-        Logger::LogMsg(Logger::LEVEL_DEBUG, "launcher_debug", "[DEBUG] launcher(%d): no need to upgrade\n", __LINE__);
+        Logger::LogMsg(Logger::LEVEL_DEBUG, "launcher_debug", "[DEBUG] launcher(%d): no need to upgrade\n",
+                       __LINE__);
     }
     // Whatever installation is in place now gets started.
     service->RemoveAgedFolders();
@@ -129,7 +131,8 @@ void Worker::HandleServicce()
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags())
 {
     QFont font("Arial", -1, -1, false);
-    QString iconPath = QString::fromUtf8(Service::GetRootNimbuloResourceInstallPath().c_str_utf8()) + "/images/ico_72_nimbulo.png";
+    QString iconPath = QString::fromUtf8(Service::GetRootNimbuloResourceInstallPath().c_str_utf8()) +
+                       "/images/ico_72_nimbulo.png";
     setWindowTitle(StrTable::LoadStr(443));
     // Through a pixmap, because QIcon(path) of a missing or unreadable file
     // is not null; this way such a file leaves the window without icon.
@@ -145,7 +148,7 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, 
     setStyleSheet(kDialogStyle);
 }
 
-ProcessingProgressDialog::~ProcessingProgressDialog() {}
+ProcessingProgressDialog::~ProcessingProgressDialog() { }
 
 Launcher::Launcher() : QObject(nullptr), worker(nullptr), dialog(nullptr)
 {
@@ -158,12 +161,16 @@ Launcher::Launcher() : QObject(nullptr), worker(nullptr), dialog(nullptr)
     QObject::connect(this, SIGNAL(sigStart()), worker, SLOT(HandleServicce()), Qt::AutoConnection);
     QObject::connect(worker, SIGNAL(sigShowMsg()), this, SLOT(ShowMsgBox()), Qt::AutoConnection);
     QObject::connect(worker, SIGNAL(sigServiceDone()), this, SLOT(LaunchDone()), Qt::AutoConnection);
-    QObject::connect(worker, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)), Qt::AutoConnection);
-    QObject::connect(worker, SIGNAL(sigSetLabelText(QString)), this, SLOT(SetLabelText(QString)), Qt::AutoConnection);
+    QObject::connect(worker, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)),
+                     Qt::AutoConnection);
+    QObject::connect(worker, SIGNAL(sigSetLabelText(QString)), this, SLOT(SetLabelText(QString)),
+                     Qt::AutoConnection);
     // The first GetInstance() of the process: the adapter is born here, on
     // the user-interface thread.
-    QObject::connect(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)), Qt::AutoConnection);
-    QObject::connect(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateDialogText(QString)), this, SLOT(SetLabelText(QString)), Qt::AutoConnection);
+    QObject::connect(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateProgress(int, int)), this,
+                     SLOT(UpdateProgress(int, int)), Qt::AutoConnection);
+    QObject::connect(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateDialogText(QString)), this,
+                     SLOT(SetLabelText(QString)), Qt::AutoConnection);
 
     // A child of the Launcher, so it is gone with it.
     dialog->installEventFilter(new DismissGuard(this));

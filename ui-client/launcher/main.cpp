@@ -14,11 +14,11 @@
 
 #include "launcher.h"
 #include "liblogger/log.h"
+#include "libustring/ustring.h"
+#include "locale/str-table.h"
 #include "nimbulo-service.h"
 #include "platform/platform.h"
 #include "qtsingleapplication/qtsingleapplication.h"
-#include "locale/str-table.h"
-#include "libustring/ustring.h"
 
 namespace {
 
@@ -30,15 +30,17 @@ bool FindPlace(ustring& executable)
     executable = PlatformExecutablePath();
     if (executable.empty()) {
         Logger::LogMsg(Logger::LEVEL_ERROR, "launcher_debug",
-                       "[ERROR] main(%d): cannot tell where the running executable is, nothing done\n", __LINE__);
+                       "[ERROR] main(%d): cannot tell where the running executable is, nothing done\n",
+                       __LINE__);
         return false;
     }
     const ustring home = PlatformHomeDir();
     if (home.empty()) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, "launcher_debug",
-                       "[ERROR] main(%d): no home folder: HOME is not an absolute path and the password database "
-                       "names no existing folder, nothing done\n",
-                       __LINE__);
+        Logger::LogMsg(
+            Logger::LEVEL_ERROR, "launcher_debug",
+            "[ERROR] main(%d): no home folder: HOME is not an absolute path and the password database "
+            "names no existing folder, nothing done\n",
+            __LINE__);
         return false;
     }
     // Qt and the client read HOME themselves; they must find the same folder.
@@ -53,8 +55,8 @@ bool PluginsReadable(const QString& pluginPath)
     if (!QDir(pluginPath + "/platforms").entryList(QDir::Files | QDir::Readable).isEmpty())
         return true;
     Logger::LogMsg(Logger::LEVEL_ERROR, "launcher_debug",
-                   "[ERROR] main(%d): no readable Qt platform plug-in in '%s/platforms', nothing done\n", __LINE__,
-                   pluginPath.toUtf8().constData());
+                   "[ERROR] main(%d): no readable Qt platform plug-in in '%s/platforms', nothing done\n",
+                   __LINE__, pluginPath.toUtf8().constData());
     return false;
 }
 
@@ -108,7 +110,8 @@ int main(int argc, char** argv)
     // Qt must find its plug-ins inside the bundle, so its default search list
     // is replaced before the application object exists:
     // .../Nimbulo.app/Contents/MacOS/Nimbulo -> .../Nimbulo.app/Contents/Frameworks/plugins
-    QString pluginPath = QDir::cleanPath(QString::fromUtf8(executable.c_str_utf8()) + "/../../Frameworks/plugins");
+    QString pluginPath =
+        QDir::cleanPath(QString::fromUtf8(executable.c_str_utf8()) + "/../../Frameworks/plugins");
     QCoreApplication::setLibraryPaths(QStringList(pluginPath));
     printf("lib path = '%s'\n", pluginPath.toUtf8().constData());
     fflush(stdout);
@@ -129,7 +132,8 @@ int main(int argc, char** argv)
         Logger::Initialize(Logger::TYPE_FILE, logDir + "/launcher.log", debugFile, 50);
 
     if (app.isRunning()) {
-        Logger::LogMsg(Logger::LEVEL_DEBUG, "launcher_debug", "[DEBUG] main(%d): app has already launched, return\n", __LINE__);
+        Logger::LogMsg(Logger::LEVEL_DEBUG, "launcher_debug",
+                       "[DEBUG] main(%d): app has already launched, return\n", __LINE__);
         return 0;
     }
     if (offscreen)

@@ -80,14 +80,9 @@ ustring GetAppBackupDir(const ustring& appPath, int index)
 
 }  // namespace
 
-Service::Service()
-    : timeout(0)
-{
-}
+Service::Service() : timeout(0) { }
 
-Service::~Service()
-{
-}
+Service::~Service() { }
 
 void Service::SetTimeout(int value)
 {
@@ -136,12 +131,15 @@ void Service::LoadTargetVersion()
     // than any installation.
     if (access(path.c_str(), R_OK) != 0) {
         int err = errno;
-        Logger::LogMsg(Logger::LEVEL_WARNING, kComponent, "[WARNING] nimbulo-service(%d): cannot read '%s': %s\n",
-                       __LINE__, path.c_str(), strerror(err));
+        Logger::LogMsg(Logger::LEVEL_WARNING, kComponent,
+                       "[WARNING] nimbulo-service(%d): cannot read '%s': %s\n", __LINE__, path.c_str(),
+                       strerror(err));
     }
-    ReadVersionFile(path, targetMajorVersion, targetMinorVersion, targetBuildVersion, targetIconOverlayVersion);
-    Logger::LogMsg(Logger::LEVEL_INFO, kComponent, "[INFO] nimbulo-service(%d): target_version = (%s, %s, %s, %s)\n",
-                   __LINE__, targetMajorVersion.c_str(), targetMinorVersion.c_str(), targetBuildVersion.c_str(),
+    ReadVersionFile(path, targetMajorVersion, targetMinorVersion, targetBuildVersion,
+                    targetIconOverlayVersion);
+    Logger::LogMsg(Logger::LEVEL_INFO, kComponent,
+                   "[INFO] nimbulo-service(%d): target_version = (%s, %s, %s, %s)\n", __LINE__,
+                   targetMajorVersion.c_str(), targetMinorVersion.c_str(), targetBuildVersion.c_str(),
                    targetIconOverlayVersion.c_str());
 }
 
@@ -149,12 +147,15 @@ void Service::LoadSourceVersion()
 {
     ustring path = GetUserNimbuloAppInstallPath() + "/Contents/Resources" + "/" + "INFO";
     if (!IsFileExist(path, false)) {
-        Logger::LogMsg(Logger::LEVEL_INFO, kComponent, "[INFO] nimbulo-service(%d): source does not exist\n", __LINE__);
+        Logger::LogMsg(Logger::LEVEL_INFO, kComponent, "[INFO] nimbulo-service(%d): source does not exist\n",
+                       __LINE__);
         return;
     }
-    ReadVersionFile(path, sourceMajorVersion, sourceMinorVersion, sourceBuildVersion, sourceIconOverlayVersion);
-    Logger::LogMsg(Logger::LEVEL_INFO, kComponent, "[INFO] nimbulo-service(%d): source_version = (%s, %s, %s, %s)\n",
-                   __LINE__, sourceMajorVersion.c_str(), sourceMinorVersion.c_str(), sourceBuildVersion.c_str(),
+    ReadVersionFile(path, sourceMajorVersion, sourceMinorVersion, sourceBuildVersion,
+                    sourceIconOverlayVersion);
+    Logger::LogMsg(Logger::LEVEL_INFO, kComponent,
+                   "[INFO] nimbulo-service(%d): source_version = (%s, %s, %s, %s)\n", __LINE__,
+                   sourceMajorVersion.c_str(), sourceMinorVersion.c_str(), sourceBuildVersion.c_str(),
                    sourceIconOverlayVersion.c_str());
 }
 
@@ -177,10 +178,11 @@ int Service::PrepareUserEnv()
                            "[ERROR] nimbulo-service(%d): failed to backup app from '%s' -> '%s'\n", __LINE__,
                            appPath.c_str(), candidate.c_str());
             if (index >= 9) {
-                Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                               "[ERROR] nimbulo-service(%d): failed to backup app from '%s' -> '%s' at max retries, "
-                               "exiting\n",
-                               __LINE__, appPath.c_str(), candidate.c_str());
+                Logger::LogMsg(
+                    Logger::LEVEL_ERROR, kComponent,
+                    "[ERROR] nimbulo-service(%d): failed to backup app from '%s' -> '%s' at max retries, "
+                    "exiting\n",
+                    __LINE__, appPath.c_str(), candidate.c_str());
                 return -1;
             }
         }
@@ -188,16 +190,18 @@ int Service::PrepareUserEnv()
 
     if (ExtractPackage() != 0) {
         if (!backupPath.empty()) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] nimbulo-service(%d): Failed to extract package, rollback to old installation\n",
-                           __LINE__);
+            Logger::LogMsg(
+                Logger::LEVEL_ERROR, kComponent,
+                "[ERROR] nimbulo-service(%d): Failed to extract package, rollback to old installation\n",
+                __LINE__);
             FSRemove(appPath, false);
             FSRename(backupPath, appPath, false);
         } else {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] nimbulo-service(%d): Failed to extract package, and no old installation to "
-                           "rollback\n",
-                           __LINE__);
+            Logger::LogMsg(
+                Logger::LEVEL_ERROR, kComponent,
+                "[ERROR] nimbulo-service(%d): Failed to extract package, and no old installation to "
+                "rollback\n",
+                __LINE__);
             // A package that could not even be opened leaves the folder made
             // for it empty; an empty folder is no installation. What an
             // extraction that went further left stays.
@@ -217,10 +221,11 @@ int Service::PrepareUserEnv()
     ustring major, minor, build, overlay;
     ReadVersionFile(appPath + "/Contents/Resources/INFO", major, minor, build, overlay);
     if (BuildNumber(build) < BuildNumber(targetBuildVersion)) {
-        Logger::LogMsg(Logger::LEVEL_WARNING, kComponent,
-                       "[WARNING] nimbulo-service(%d): installed build %d is still older than the bundle's build %d: "
-                       "the package's INFO does not match the bundle's, so every start installs it again\n",
-                       __LINE__, BuildNumber(build), BuildNumber(targetBuildVersion));
+        Logger::LogMsg(
+            Logger::LEVEL_WARNING, kComponent,
+            "[WARNING] nimbulo-service(%d): installed build %d is still older than the bundle's build %d: "
+            "the package's INFO does not match the bundle's, so every start installs it again\n",
+            __LINE__, BuildNumber(build), BuildNumber(targetBuildVersion));
     }
     return 0;
 }
@@ -231,12 +236,14 @@ int Service::ExtractPackage()
     ustring appPath = GetUserNimbuloAppInstallPath();
 
     if (FSMKDir(appPath, true) < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] nimbulo-service(%d): failed to create folder: '%s'\n",
-                       __LINE__, appPath.c_str());
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] nimbulo-service(%d): failed to create folder: '%s'\n", __LINE__,
+                       appPath.c_str());
         return -1;
     }
-    Logger::LogMsg(Logger::LEVEL_INFO, kComponent, "[INFO] nimbulo-service(%d): extract package: '%s' -> '%s'\n",
-                   __LINE__, packagePath.c_str(), appPath.c_str());
+    Logger::LogMsg(Logger::LEVEL_INFO, kComponent,
+                   "[INFO] nimbulo-service(%d): extract package: '%s' -> '%s'\n", __LINE__,
+                   packagePath.c_str(), appPath.c_str());
 
     Extractor extractor;
     extractor.archivePath = packagePath;
@@ -247,20 +254,21 @@ int Service::ExtractPackage()
 void Service::RemoveAgedFolders()
 {
     ustring path = GetUserNimbuloInstallPath() + "/app";
-    Logger::LogMsg(Logger::LEVEL_INFO, kComponent, "[INFO] nimbulo-service(%d): removing aged app folder %s\n",
-                   __LINE__, path.c_str());
+    Logger::LogMsg(Logger::LEVEL_INFO, kComponent,
+                   "[INFO] nimbulo-service(%d): removing aged app folder %s\n", __LINE__, path.c_str());
     FSRemove(path, false);
 }
 
 int Service::FSCopyPath(const ustring& src, const ustring& dst)
 {
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] nimbulo-service(%d): copy from '%s' to '%s'\n", __LINE__,
-                   src.c_str(), dst.c_str());
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] nimbulo-service(%d): copy from '%s' to '%s'\n",
+                   __LINE__, src.c_str(), dst.c_str());
 
     FILE_INFO info;
     if (FSStat(src, info, false) < 0) {
         Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] nimbulo-service(%d): FSCopyPath: failed to stat source '%s'\n", __LINE__, src.c_str());
+                       "[ERROR] nimbulo-service(%d): FSCopyPath: failed to stat source '%s'\n", __LINE__,
+                       src.c_str());
         return -1;
     }
     if (!info.exists) {
@@ -275,16 +283,17 @@ int Service::FSCopyPath(const ustring& src, const ustring& dst)
 
     if (FSMKDir(dst, true) < 0) {
         Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                       "[ERROR] nimbulo-service(%d): FSCopyPath: failed to create dest folder '%s'\n", __LINE__,
-                       dst.c_str());
+                       "[ERROR] nimbulo-service(%d): FSCopyPath: failed to create dest folder '%s'\n",
+                       __LINE__, dst.c_str());
         return -1;
     }
 
     DIR_HANDLE handle;
     if (FSOpenDir(src, 0, handle) < 0) {
-        Logger::LogMsg(Logger::LEVEL_WARNING, kComponent,
-                       "[WARNING] nimbulo-service(%d): FSCopyPath: failed to create handle  for src '%s' failed\n",
-                       __LINE__, src.c_str());
+        Logger::LogMsg(
+            Logger::LEVEL_WARNING, kComponent,
+            "[WARNING] nimbulo-service(%d): FSCopyPath: failed to create handle  for src '%s' failed\n",
+            __LINE__, src.c_str());
         return 0;
     }
 
@@ -294,11 +303,12 @@ int Service::FSCopyPath(const ustring& src, const ustring& dst)
             continue;
         ustring childSrc = src + "/" + entry.name;
         ustring childDst = dst + "/" + entry.name;
-        int ret = entry.type == FILE_TYPE_DIR ? FSCopyPath(childSrc, childDst) : FSCopy(childSrc, childDst, false);
+        int ret =
+            entry.type == FILE_TYPE_DIR ? FSCopyPath(childSrc, childDst) : FSCopy(childSrc, childDst, false);
         if (ret < 0) {
             Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
-                           "[ERROR] nimbulo-service(%d): FSCopyPath: failed to copy from '%s' to '%s'\n", __LINE__,
-                           childSrc.c_str(), childDst.c_str());
+                           "[ERROR] nimbulo-service(%d): FSCopyPath: failed to copy from '%s' to '%s'\n",
+                           __LINE__, childSrc.c_str(), childDst.c_str());
             FSCloseDir(handle);
             return -1;
         }
@@ -307,10 +317,7 @@ int Service::FSCopyPath(const ustring& src, const ustring& dst)
     return 0;
 }
 
-InstallLock::InstallLock()
-    : fd(-1)
-{
-}
+InstallLock::InstallLock() : fd(-1) { }
 
 InstallLock::~InstallLock()
 {
@@ -338,19 +345,21 @@ int InstallLock::Acquire(int waitSeconds)
             break;
         }
         long waited = static_cast<long>(
-            std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start).count());
+            std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start)
+                .count());
         if (waited >= waitSeconds) {
-            Logger::LogMsg(Logger::LEVEL_WARNING, kComponent,
-                           "[WARNING] nimbulo-service(%d): another launcher still holds '%s' after %ld seconds, going "
-                           "on without it\n",
-                           __LINE__, path.c_str(), waited);
+            Logger::LogMsg(
+                Logger::LEVEL_WARNING, kComponent,
+                "[WARNING] nimbulo-service(%d): another launcher still holds '%s' after %ld seconds, going "
+                "on without it\n",
+                __LINE__, path.c_str(), waited);
             Release();
             return -1;
         }
         if (!told && waited >= kLockPatienceSeconds) {
             Logger::LogMsg(Logger::LEVEL_NOTE, kComponent,
-                           "[NOTE] nimbulo-service(%d): waiting for another launcher to finish with '%s'\n", __LINE__,
-                           path.c_str());
+                           "[NOTE] nimbulo-service(%d): waiting for another launcher to finish with '%s'\n",
+                           __LINE__, path.c_str());
             told = true;
         }
         struct timespec pause = {0, 100 * 1000 * 1000};
@@ -358,8 +367,8 @@ int InstallLock::Acquire(int waitSeconds)
     }
     if (err != 0) {
         Logger::LogMsg(Logger::LEVEL_WARNING, kComponent,
-                       "[WARNING] nimbulo-service(%d): cannot lock '%s': %s (%d), going on without it\n", __LINE__,
-                       path.c_str(), strerror(err), err);
+                       "[WARNING] nimbulo-service(%d): cannot lock '%s': %s (%d), going on without it\n",
+                       __LINE__, path.c_str(), strerror(err), err);
         Release();
         return -1;
     }

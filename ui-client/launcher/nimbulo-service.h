@@ -42,13 +42,13 @@ public:
     virtual int PrepareUserEnv();
 
     // Path operations: plain concatenation, nothing is created on disk.
-    static ustring GetUserInstallPath();                  // H
-    static ustring GetRootNimbuloInstallPath();           // B
-    static ustring GetRootNimbuloResourceInstallPath();   // B/Contents/Resources
-    static ustring GetUserNimbuloInstallPath();           // R
-    static ustring GetUserNimbuloAppInstallPath();        // A
-    static ustring GetUserNimbuloDataInstallPath();       // R/data
-    static ustring GetUserNimbuloLockPath();              // R/launcher.lock
+    static ustring GetUserInstallPath();                 // H
+    static ustring GetRootNimbuloInstallPath();          // B
+    static ustring GetRootNimbuloResourceInstallPath();  // B/Contents/Resources
+    static ustring GetUserNimbuloInstallPath();          // R
+    static ustring GetUserNimbuloAppInstallPath();       // A
+    static ustring GetUserNimbuloDataInstallPath();      // R/data
+    static ustring GetUserNimbuloLockPath();             // R/launcher.lock
 
     // Copies a file or a folder tree. 0, or -1; a folder whose listing cannot
     // be opened is created empty and counts as copied.

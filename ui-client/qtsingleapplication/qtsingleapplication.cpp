@@ -54,8 +54,8 @@ QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool /*GUIenabl
     qint64 pid = 0;
     QString host;
     QString app;
-    if (lockFile->getLockInfo(&pid, &host, &app) && pid == QCoreApplication::applicationPid()
-        && lockFile->removeStaleLockFile() && lockFile->tryLock(0))
+    if (lockFile->getLockInfo(&pid, &host, &app) && pid == QCoreApplication::applicationPid() &&
+        lockFile->removeStaleLockFile() && lockFile->tryLock(0))
         return;
     running = lockFile->error() == QLockFile::LockFailedError;
 }

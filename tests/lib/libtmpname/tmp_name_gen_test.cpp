@@ -8,7 +8,8 @@
 
 // K[0] = 0, K[i] = 1 - i makes every swap of the key schedule a swap with itself: the identity permutation.
 // The second name fails when the permutation restarts, or i and j carry over, between draws.
-TEST_F(FolderTest, TmpNamesKnownUniqueAndFromTheAlphabet) {
+TEST_F(FolderTest, TmpNamesKnownUniqueAndFromTheAlphabet)
+{
     std::string key(256, '\0');
     for (int i = 1; i < 256; ++i)
         key[i] = static_cast<char>(1 - i);
@@ -22,12 +23,15 @@ TEST_F(FolderTest, TmpNamesKnownUniqueAndFromTheAlphabet) {
     for (int n = 0; n < 5000; ++n)
         used += *names.insert(TmpNameGen::getInstance().getTmpName().c_str()).first;
     EXPECT_EQ(std::make_pair(size_t(5000), size_t(40000)), std::make_pair(names.size(), used.size()));
-    EXPECT_EQ(std::string::npos, used.find_first_not_of("0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_"));
-    EXPECT_EQ(64u, std::set<char>(used.begin(), used.end()).size()) << "the last characters are reachable too";
+    EXPECT_EQ(std::string::npos,
+              used.find_first_not_of("0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_"));
+    EXPECT_EQ(64u, std::set<char>(used.begin(), used.end()).size())
+        << "the last characters are reachable too";
 }
 
 // A short read from the device keys with "seconds-microseconds" written over what arrived, the rest kept.
-TEST_F(FolderTest, TmpNameKeyFromTheTimeOfDayWhenTheDeviceGivesTooLittle) {
+TEST_F(FolderTest, TmpNameKeyFromTheTimeOfDayWhenTheDeviceGivesTooLittle)
+{
     Write(P("short"), std::string(100, 'Z'));
     unsigned char key[257] = {};
     timeval before, after;

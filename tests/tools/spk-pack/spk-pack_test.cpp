@@ -23,7 +23,8 @@ static std::vector<std::string> Entries(const fs::path& package)
     archive_read_support_filter_all(a);
     archive_read_support_format_all(a);
     archive_entry* e = nullptr;
-    for (archive_read_open_filename(a, package.c_str(), 10240); archive_read_next_header(a, &e) == ARCHIVE_OK;)
+    for (archive_read_open_filename(a, package.c_str(), 10240);
+         archive_read_next_header(a, &e) == ARCHIVE_OK;)
         names.push_back(fs::path(archive_entry_pathname(e)).lexically_normal().generic_string());
     archive_read_free(a);
     for (std::string& name : names)
@@ -39,7 +40,8 @@ TEST(SpkPack, EveryFormatPutsTheVersionFileLastAndIsDeterministic)
     char pattern[] = "/tmp/spk-pack-test-XXXXXX";
     const std::string dir = mkdtemp(pattern), pack = std::string(SPK_PACK_PATH) + " --format ";
     std::vector<std::string> files = {"Contents/Info.plist", "Contents/MacOS/nimbulo-pelora-ui",
-                                      "Contents/Resources/INFO", "Contents/Resources/z/a.png", "Contents/A/b"};
+                                      "Contents/Resources/INFO", "Contents/Resources/z/a.png",
+                                      "Contents/A/b"};
     for (const char* copy : {"/one/", "/two/"}) {
         for (const std::string& f : files) {
             fs::create_directories(fs::path(dir + copy + f).parent_path());
@@ -47,11 +49,13 @@ TEST(SpkPack, EveryFormatPutsTheVersionFileLastAndIsDeterministic)
         }
         std::reverse(files.begin(), files.end());
     }
-    fs::last_write_time(dir + "/two/Contents/Info.plist", fs::file_time_type::clock::now() - std::chrono::hours(50));
+    fs::last_write_time(dir + "/two/Contents/Info.plist",
+                        fs::file_time_type::clock::now() - std::chrono::hours(50));
     for (const std::string format : {"tar.gz", "tar", "tar.xz", "zip", "7z"}) {
         SCOPED_TRACE(format);
         const std::string a = dir + "/a." + format, b = dir + "/b." + format;
-        ASSERT_EQ(0, Shell(pack + format + " " + dir + "/one " + a) + Shell(pack + format + " " + dir + "/two " + b));
+        ASSERT_EQ(0, Shell(pack + format + " " + dir + "/one " + a) +
+                         Shell(pack + format + " " + dir + "/two " + b));
         EXPECT_EQ(0, Shell("cmp " + a + " " + b)) << "two runs differ";
         const std::vector<std::string> names = Entries(a);
         ASSERT_EQ(10u, names.size());
@@ -59,7 +63,8 @@ TEST(SpkPack, EveryFormatPutsTheVersionFileLastAndIsDeterministic)
             continue;  // libarchive's 7z writer orders the entries itself: offered for size comparisons only
         EXPECT_EQ("Contents/Resources/INFO", names.back());
         for (size_t i = 0; i < names.size(); ++i)
-            EXPECT_TRUE(names[i] == "Contents" || std::count(names.begin(), names.begin() + i, fs::path(names[i]).parent_path()))
+            EXPECT_TRUE(names[i] == "Contents" ||
+                        std::count(names.begin(), names.begin() + i, fs::path(names[i]).parent_path()))
                 << names[i] << " comes before its folder";
     }
     EXPECT_NE(0, Shell(pack + "tar " + dir + "/missing " + dir + "/out"));

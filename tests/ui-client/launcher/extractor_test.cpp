@@ -5,7 +5,10 @@
 #include "launcher.h"
 #include "ui_test.h"
 
-static long OpenDescriptors() { return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator()); }
+static long OpenDescriptors()
+{
+    return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+}
 
 TEST(Extractor, CountsExtractsAndRefusesWithoutLeakingDescriptors)
 {
@@ -19,8 +22,11 @@ TEST(Extractor, CountsExtractsAndRefusesWithoutLeakingDescriptors)
     using Steps = std::vector<std::pair<int, int>>;
     // The archive, what Count and Extract return, the progress reported.
     const std::tuple<std::string, int, int, Steps> rows[] = {
-        {"good.tar", 3, 0, {{3, 1}, {3, 2}, {3, 3}}}, {"dotdot.tar", 2, -1, {{2, 1}}}, {"cut.tar", 2, -1, {{2, 1}}},
-        {"empty.tar", 0, -1, {}}, {"missing.tar", -1, -1, {}},
+        {"good.tar", 3, 0, {{3, 1}, {3, 2}, {3, 3}}},
+        {"dotdot.tar", 2, -1, {{2, 1}}},
+        {"cut.tar", 2, -1, {{2, 1}}},
+        {"empty.tar", 0, -1, {}},
+        {"missing.tar", -1, -1, {}},
     };
     for (const auto& [archive, count, result, wantProgress] : rows) {
         SCOPED_TRACE(archive);
@@ -36,7 +42,8 @@ TEST(Extractor, CountsExtractsAndRefusesWithoutLeakingDescriptors)
         for (const QList<QVariant>& args : spy)
             progress.emplace_back(args.at(0).toInt(), args.at(1).toInt());
         EXPECT_EQ(wantProgress, progress);
-        EXPECT_FALSE(fs::exists(dir + "/" + name + ".txt") || fs::exists("/" + name + ".txt")) << "left the destination";
+        EXPECT_FALSE(fs::exists(dir + "/" + name + ".txt") || fs::exists("/" + name + ".txt"))
+            << "left the destination";
     }
     fs::remove_all(dir);
 }

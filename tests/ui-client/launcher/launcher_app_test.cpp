@@ -7,8 +7,8 @@
 #include <QTest>
 
 #include "launcher.h"
-#include "nimbulo-service.h"
 #include "locale/str-table.h"
+#include "nimbulo-service.h"
 #include "ui_test.h"
 
 // Declared a friend by Launcher.
@@ -48,13 +48,16 @@ TEST(ProgressDialog, EachEntryThenTheReadyTextOnlyAfterSuccess)
     Put(resources / "INFO", info);
     // Installed before, a package that extracts, the dialog shown, the bar's values, the text at the end.
     const std::tuple<bool, bool, bool, std::vector<int>, QString> rows[] = {
-        {false, true, true, {33, 66, 100}, kReady}, {false, false, true, {33, 66, 100}, kPreparing},
+        {false, true, true, {33, 66, 100}, kReady},
+        {false, false, true, {33, 66, 100}, kPreparing},
         {true, true, false, {100}, kPreparing}};
     for (const auto& [installed, goodPackage, wantShown, wantBar, text] : rows) {
         SCOPED_TRACE(text.toStdString() + (installed ? ", installed" : ""));
         const fs::path home = TempDir(), app = home / ".Nimbulo/Nimbulo.app";
-        WriteArchive(resources / "package/nimbulo.spk", {{"Contents/Resources/INFO", info}, {"Contents/MacOS/nimbulo-pelora-ui", ""},
-                                                          {goodPackage ? "Contents/Info.plist" : "../refused", ""}});
+        WriteArchive(resources / "package/nimbulo.spk",
+                     {{"Contents/Resources/INFO", info},
+                      {"Contents/MacOS/nimbulo-pelora-ui", ""},
+                      {goodPackage ? "Contents/Info.plist" : "../refused", ""}});
         if (installed)
             Put(app / "Contents/Resources/INFO", info), Put(app / "Contents/MacOS/nimbulo-pelora-ui", "");
         qputenv("HOME", home.c_str());
@@ -67,11 +70,13 @@ TEST(ProgressDialog, EachEntryThenTheReadyTextOnlyAfterSuccess)
             offUiThread = offUiThread || QThread::currentThread() != qApp->thread();
         });
         // Queued behind the Launcher's own slot for the same signal.
-        QObject::connect(LauncherTestPeer::WorkerOf(&launcher), &Worker::sigShowMsg, d, [&] { shown = d->isVisible(); });
+        QObject::connect(LauncherTestPeer::WorkerOf(&launcher), &Worker::sigShowMsg, d,
+                         [&] { shown = d->isVisible(); });
         launcher.Run();
         launcher.Start();
         EXPECT_EQ(0, QApplication::exec());
-        EXPECT_TRUE(LauncherTestPeer::WorkerOf(&launcher)->Thread()->isFinished()) << "the run ended before the worker";
+        EXPECT_TRUE(LauncherTestPeer::WorkerOf(&launcher)->Thread()->isFinished())
+            << "the run ended before the worker";
         EXPECT_EQ(wantBar, bar);
         EXPECT_FALSE(offUiThread) << "the dialog was changed from the worker thread";
         EXPECT_EQ(wantShown, shown);

@@ -11,7 +11,11 @@
 
 namespace fs = std::filesystem;
 
-inline std::string TempDir() { char pattern[] = "/tmp/nimbulo-ui-test-XXXXXX"; return mkdtemp(pattern); }
+inline std::string TempDir()
+{
+    char pattern[] = "/tmp/nimbulo-ui-test-XXXXXX";
+    return mkdtemp(pattern);
+}
 
 inline void Put(const fs::path& path, const std::string& text)
 {
@@ -21,7 +25,8 @@ inline void Put(const fs::path& path, const std::string& text)
 
 // A ustar archive of (path, data) entries, names stored as they are; a path
 // ending in "/" is a folder.
-inline void WriteArchive(const fs::path& file, const std::vector<std::pair<std::string, std::string>>& entries)
+inline void WriteArchive(const fs::path& file,
+                         const std::vector<std::pair<std::string, std::string>>& entries)
 {
     fs::create_directories(file.parent_path());
     archive* a = archive_write_new();

@@ -26,7 +26,8 @@ static std::string Hold(QProcess& process, QStringList command, const QString& r
 TEST(SingleInstance, RefusesOnlyASecondLiveInstanceOfTheSameExecutable)
 {
     char pattern[] = "/tmp/qtsingleapp-test-XXXXXX";
-    const QString runtime = mkdtemp(pattern), self = QCoreApplication::applicationFilePath(), copy = runtime + "/" + self.section('/', -1);
+    const QString runtime = mkdtemp(pattern), self = QCoreApplication::applicationFilePath(),
+                  copy = runtime + "/" + self.section('/', -1);
     std::filesystem::copy_file(self.toStdString(), copy.toStdString());
     QProcess first, second, other, next;
     EXPECT_EQ("running=0", Hold(first, {self}, runtime));
@@ -44,7 +45,8 @@ int main(int argc, char** argv)
         QtSingleApplication app(argc, argv, true);
         printf("running=%d\n", app.isRunning() ? 1 : 0);
         fflush(stdout);
-        while (fgetc(stdin) != EOF) continue;
+        while (fgetc(stdin) != EOF)
+            continue;
         return 0;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -4,8 +4,8 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
-#include "str-table-rows.h"
 #include "locale/varnex-locale.h"
+#include "str-table-rows.h"
 
 const char* StrTable::stab[StrTable::kRowCount];
 const char* StrTable::ktab[StrTable::kRowCount];

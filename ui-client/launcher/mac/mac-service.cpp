@@ -9,8 +9,8 @@
 #include <sys/types.h>
 #include <unistd.h>
 
-#include "liblogger/config.h"
 #include "libfile/file-op.h"
+#include "liblogger/config.h"
 #include "liblogger/log.h"
 #include "platform/platform.h"
 
@@ -72,8 +72,7 @@ ustring ClientPidFile()
 void SleepOneSecond()
 {
     struct timespec left = {1, 0};
-    while (nanosleep(&left, &left) != 0 && errno == EINTR) {
-    }
+    while (nanosleep(&left, &left) != 0 && errno == EINTR) { }
 }
 
 // The standard atoi rule, kept inside the int range instead of overflowing.
@@ -117,10 +116,12 @@ void MacService::PreUpgrade()
 {
     Service::LoadTargetVersion();
     Service::LoadSourceVersion();
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] mac/mac-service(%d): Source version: ('%s', '%s')\n",
-                   __LINE__, sourceBuildVersion.c_str(), sourceIconOverlayVersion.c_str());
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent, "[DEBUG] mac/mac-service(%d): Target version: ('%s', '%s')\n",
-                   __LINE__, targetBuildVersion.c_str(), targetIconOverlayVersion.c_str());
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
+                   "[DEBUG] mac/mac-service(%d): Source version: ('%s', '%s')\n", __LINE__,
+                   sourceBuildVersion.c_str(), sourceIconOverlayVersion.c_str());
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
+                   "[DEBUG] mac/mac-service(%d): Target version: ('%s', '%s')\n", __LINE__,
+                   targetBuildVersion.c_str(), targetIconOverlayVersion.c_str());
 }
 
 bool MacService::IsNeedUpgrade()
@@ -128,8 +129,8 @@ bool MacService::IsNeedUpgrade()
     int source = BuildNumber(sourceBuildVersion);
     int target = BuildNumber(targetBuildVersion);
     Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
-                   "[DEBUG] mac/mac-service(%d): source version = %d, target version = %d\n", __LINE__, source,
-                   target);
+                   "[DEBUG] mac/mac-service(%d): source version = %d, target version = %d\n", __LINE__,
+                   source, target);
     return !PerUserBinPathExist() || target > source;
 }
 
@@ -151,8 +152,8 @@ void MacService::StopService()
     switch (ReadClientPid(pidFile, pid, value)) {
     case kPidFileMissing:
         Logger::LogMsg(Logger::LEVEL_DEBUG, kComponent,
-                       "[DEBUG] mac/mac-service(%d): pid file '%s' does not exist, no need to terminate\n", __LINE__,
-                       pidFile.c_str());
+                       "[DEBUG] mac/mac-service(%d): pid file '%s' does not exist, no need to terminate\n",
+                       __LINE__, pidFile.c_str());
         return;
     case kPidFileUnreadable:
         Logger::LogMsg(Logger::LEVEL_NOTE, kComponent,
@@ -160,9 +161,10 @@ void MacService::StopService()
                        pidFile.c_str());
         return;
     case kPidValueInvalid:
-        Logger::LogMsg(Logger::LEVEL_NOTE, kComponent,
-                       "[NOTE] mac/mac-service(%d): pid file '%s' holds no valid pid '%s', no need to terminate\n",
-                       __LINE__, pidFile.c_str(), value.c_str());
+        Logger::LogMsg(
+            Logger::LEVEL_NOTE, kComponent,
+            "[NOTE] mac/mac-service(%d): pid file '%s' holds no valid pid '%s', no need to terminate\n",
+            __LINE__, pidFile.c_str(), value.c_str());
         return;
     default:
         break;
@@ -181,9 +183,10 @@ void MacService::StopService()
             const char* text = strerror(err);
             runs = ustring("unknown (") + (text != nullptr ? text : "") + ")";
         }
-        Logger::LogMsg(Logger::LEVEL_NOTE, kComponent,
-                       "[NOTE] mac/mac-service(%d): pid %d runs '%s', not the client '%s', no need to terminate\n",
-                       __LINE__, static_cast<int>(pid), runs.c_str(), client.c_str());
+        Logger::LogMsg(
+            Logger::LEVEL_NOTE, kComponent,
+            "[NOTE] mac/mac-service(%d): pid %d runs '%s', not the client '%s', no need to terminate\n",
+            __LINE__, static_cast<int>(pid), runs.c_str(), client.c_str());
         return;
     }
 
@@ -192,8 +195,8 @@ void MacService::StopService()
         if (err == ESRCH)
             return;
         const char* text = strerror(err);
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] mac/mac-service(%d): kill: %s (%d)\n", __LINE__,
-                       text != nullptr ? text : "", err);
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] mac/mac-service(%d): kill: %s (%d)\n",
+                       __LINE__, text != nullptr ? text : "", err);
     }
 
     // Five probes, each followed by a one-second pause while the process is
@@ -220,8 +223,8 @@ int MacService::LaunchPerUserBin()
 {
     ustring bundle = GetUserInstallPath() + "/.Nimbulo/Nimbulo.app";
     if (PlatformForgetBundle(bundle) != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] mac/mac-service(%d): Cannot unregister bundle, %s",
-                       __LINE__, bundle.c_str());
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] mac/mac-service(%d): Cannot unregister bundle, %s", __LINE__, bundle.c_str());
     }
     return PlatformOpenBundle(bundle) ? 0 : -1;
 }
@@ -229,6 +232,6 @@ int MacService::LaunchPerUserBin()
 void MacService::PostUpgrade()
 {
     if (LaunchPerUserBin() < 0)
-        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "[ERROR] mac/mac-service(%d): Failed to launch Nimbulo UI\n",
-                       __LINE__);
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent,
+                       "[ERROR] mac/mac-service(%d): Failed to launch Nimbulo UI\n", __LINE__);
 }

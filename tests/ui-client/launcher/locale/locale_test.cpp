@@ -14,11 +14,18 @@
 TEST(Locale, SystemLocaleChoosesTheLanguageAndItsCatalogue)
 {
     const char* const rows[][2] = {
-        {"de_DE.ISO-8859-1", "ger Nimbulo Pelora ist bereit."}, {"fr_FR@euro", "fre Nimbulo Pelora est prêt."},
-        {"pt_BR", "ptb O Nimbulo Pelora está pronto."}, {"pt_PT.UTF-8", "ptg Nimbulo Pelora pronta."},
-        {"zh_TW.Big5", "cht Nimbulo Pelora 準備完成"}, {"zh_HK", "cht Nimbulo Pelora 準備完成"}, {"nn_NO", "nor Nimbulo Pelora er klar."},
-        {"zh_CN.GB18030", "chs Nimbulo Pelora 已就绪。"}, {"ja_JP.eucJP", "jpn Nimbulo Pelora は準備完了です。"},
-        {"sr_RS@latin", "enu Nimbulo Pelora is ready."}, {"C", "enu Nimbulo Pelora is ready."}, {"POSIX", "enu Nimbulo Pelora is ready."},
+        {"de_DE.ISO-8859-1", "ger Nimbulo Pelora ist bereit."},
+        {"fr_FR@euro", "fre Nimbulo Pelora est prêt."},
+        {"pt_BR", "ptb O Nimbulo Pelora está pronto."},
+        {"pt_PT.UTF-8", "ptg Nimbulo Pelora pronta."},
+        {"zh_TW.Big5", "cht Nimbulo Pelora 準備完成"},
+        {"zh_HK", "cht Nimbulo Pelora 準備完成"},
+        {"nn_NO", "nor Nimbulo Pelora er klar."},
+        {"zh_CN.GB18030", "chs Nimbulo Pelora 已就绪。"},
+        {"ja_JP.eucJP", "jpn Nimbulo Pelora は準備完了です。"},
+        {"sr_RS@latin", "enu Nimbulo Pelora is ready."},
+        {"C", "enu Nimbulo Pelora is ready."},
+        {"POSIX", "enu Nimbulo Pelora is ready."},
     };
     // The launcher's start under LC_ALL=locale and no other locale variable:
     // the code chosen and string 456 from the catalogue installed for it.
@@ -33,12 +40,13 @@ TEST(Locale, SystemLocaleChoosesTheLanguageAndItsCatalogue)
 
 TEST(Locale, EveryCatalogueTranslatesEveryText)
 {
-    for (const char* code : {"chs", "cht", "csy", "dan", "enu", "fre", "ger", "hun", "ita", "jpn", "krn", "nld",
-                             "nor", "plk", "ptb", "ptg", "rus", "spn", "sve", "trk"}) {
+    for (const char* code : {"chs", "cht", "csy", "dan", "enu", "fre", "ger", "hun", "ita", "jpn",
+                             "krn", "nld", "nor", "plk", "ptb", "ptg", "rus", "spn", "sve", "trk"}) {
         QTranslator translator;
         ASSERT_TRUE(translator.load(QString(":/") + code + ".qm")) << code;
         for (int id = 0; id < StrTable::kRowCount; ++id)
-            EXPECT_FALSE(translator.translate("global", StrTable::stab[id]).isEmpty()) << code << " lacks " << id;
+            EXPECT_FALSE(translator.translate("global", StrTable::stab[id]).isEmpty())
+                << code << " lacks " << id;
     }
 }
 
@@ -51,7 +59,9 @@ int main(int argc, char** argv)
         setlocale(LC_ALL, "");
         QTranslator translator;
         InstallCatalogue(translator);
-        printf("%s", (VarnexLocale::getInstance()->getDefaultLanguage() + " " + StrTable::LoadStr(456)).toUtf8().constData());
+        printf("%s", (VarnexLocale::getInstance()->getDefaultLanguage() + " " + StrTable::LoadStr(456))
+                         .toUtf8()
+                         .constData());
         return 0;
     }
     ::testing::InitGoogleTest(&argc, argv);
