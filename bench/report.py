@@ -90,9 +90,12 @@ if with_candidate:
 
 # CPU time: less disturbed than wall time by other load on the machine.
 print("\nCPU time (user + system), hyperfine's means in ms:\n")
-print("| profile | format | launcher | two-pass ref | bsdtar |\n|---|---|---:|---:|---:|")
+print("| profile | format | launcher | two-pass ref | bsdtar | launcher / (ref + qt-min) | launcher / bsdtar |")
+print("|---|---|---:|---:|---:|---:|---:|")
+qt_cpu = cpu_ms(start["qt-min"])
 for (p, fmt), c in cells.items():
-    print(f"| {p} | {fmt} | {cpu_ms(c['launcher']):.0f} | {cpu_ms(c['extract-ref']):.0f} | {cpu_ms(c['bsdtar']):.0f} |")
+    l, r, b = cpu_ms(c["launcher"]), cpu_ms(c["extract-ref"]), cpu_ms(c["bsdtar"])
+    print(f"| {p} | {fmt} | {l:.0f} | {r:.0f} | {b:.0f} | {l / (r + qt_cpu):.2f} | {l / b:.2f} |")
 
 print("\n| goal | figure | verdict |\n|---|---|---|")
 print(f"| upgrade <= {UPGRADE_GOAL:.2f}x (two-pass ref + qt-min), every profile and format | worst {worst:.2f}x "
