@@ -36,7 +36,7 @@ namespace {
 // splitmix64: small, fast and fully specified.
 class Random {
 public:
-    explicit Random(uint64_t seed) : state(seed) {}
+    explicit Random(uint64_t seed) : state(seed) { }
     uint64_t Next()
     {
         uint64_t z = (state += 0x9E3779B97F4A7C15ULL);
@@ -55,13 +55,13 @@ private:
 
 struct Profile {
     const char* name;
-    int files;             // regular files besides the client, INFO and Info.plist
-    int folders;           // folders to spread them over (frameworks' own not counted)
-    int frameworks;        // each brings three symbolic links
-    uint64_t totalBytes;   // 0: keep the drawn sizes as they are
+    int files;            // regular files besides the client, INFO and Info.plist
+    int folders;          // folders to spread them over (frameworks' own not counted)
+    int frameworks;       // each brings three symbolic links
+    uint64_t totalBytes;  // 0: keep the drawn sizes as they are
     uint64_t minSize;
     uint64_t maxSize;
-    bool logSizes;         // log-uniform sizes (few big files) instead of uniform
+    bool logSizes;  // log-uniform sizes (few big files) instead of uniform
 };
 
 const Profile kProfiles[] = {
@@ -73,10 +73,10 @@ const Profile kProfiles[] = {
 // Text-like bytes that gzip shrinks about three- to fourfold, without a
 // repeating period that a large-window compressor could exploit.
 const char* const kWords[32] = {
-    "sync ",   "folder ", "client ",  "upload ", "share ",    "device ", "version ", "status ",
-    "remote ", "local ",  "change ",  "queue ",  "conflict ", "the ",    "a ",       "of ",
-    "file ",   "path ",   "server ",  "task ",   "event ",    "and ",    "to ",      "in ",
-    "done\n",  "ok\n",    "error\n",  "retry ",  "delta ",    "block ",  "hash ",    "size "};
+    "sync ",   "folder ", "client ", "upload ", "share ",    "device ", "version ", "status ",
+    "remote ", "local ",  "change ", "queue ",  "conflict ", "the ",    "a ",       "of ",
+    "file ",   "path ",   "server ", "task ",   "event ",    "and ",    "to ",      "in ",
+    "done\n",  "ok\n",    "error\n", "retry ",  "delta ",    "block ",  "hash ",    "size "};
 
 void FillCompressible(Random& rng, std::string& out, size_t size)
 {
@@ -175,12 +175,11 @@ std::string InfoText(int build)
            "\nicon_overlay_version=1\n";
 }
 
-const char kInfoPlist[] =
-    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-    "<plist version=\"1.0\">\n<dict>\n"
-    "  <key>CFBundleExecutable</key>\n  <string>nimbulo-pelora-ui</string>\n"
-    "  <key>CFBundleIdentifier</key>\n  <string>com.nimbulo.pelora-ui</string>\n"
-    "</dict>\n</plist>\n";
+const char kInfoPlist[] = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                          "<plist version=\"1.0\">\n<dict>\n"
+                          "  <key>CFBundleExecutable</key>\n  <string>nimbulo-pelora-ui</string>\n"
+                          "  <key>CFBundleIdentifier</key>\n  <string>com.nimbulo.pelora-ui</string>\n"
+                          "</dict>\n</plist>\n";
 
 // Without a real client the package still needs an executable at the
 // client's path; this one waits to be stopped, as the client would.
@@ -236,14 +235,14 @@ int Generate(const Profile& p, uint64_t seed, int build, const std::string& clie
     std::vector<FileSpec> specs;
     specs.reserve(static_cast<size_t>(p.files));
     for (int i = 0; i < p.frameworks; ++i) {
-        fs::path binary = contents / "Frameworks" / ("Lib" + std::to_string(i) + ".framework") / "Versions" / "A" /
-                          ("Lib" + std::to_string(i));
+        fs::path binary = contents / "Frameworks" / ("Lib" + std::to_string(i) + ".framework") / "Versions" /
+                          "A" / ("Lib" + std::to_string(i));
         specs.push_back({binary, 0, false, true});
     }
     while (static_cast<int>(specs.size()) < p.files) {
         bool inFramework = !frameworkFolders.empty() && rng.Below(8) == 0;
-        const fs::path& folder =
-            inFramework ? frameworkFolders[rng.Below(frameworkFolders.size())] : folders[rng.Below(folders.size())];
+        const fs::path& folder = inFramework ? frameworkFolders[rng.Below(frameworkFolders.size())]
+                                             : folders[rng.Below(folders.size())];
         char name[32];
         snprintf(name, sizeof name, "f%05zu.dat", specs.size());
         specs.push_back({folder / name, 0, false, false});
@@ -295,7 +294,8 @@ int Generate(const Profile& p, uint64_t seed, int build, const std::string& clie
     if (!client.empty() && ReadWholeFile(client, clientBytes) != 0) {
         return -1;
     }
-    if (MakeFolder(contents / "MacOS") != 0 || WriteFile(contents / "MacOS" / "nimbulo-pelora-ui", clientBytes, 0755) != 0 ||
+    if (MakeFolder(contents / "MacOS") != 0 ||
+        WriteFile(contents / "MacOS" / "nimbulo-pelora-ui", clientBytes, 0755) != 0 ||
         WriteFile(contents / "Resources" / "INFO", InfoText(build), 0644) != 0 ||
         WriteFile(contents / "Info.plist", kInfoPlist, 0644) != 0) {
         return -1;
@@ -352,9 +352,10 @@ std::vector<std::string> SplitList(const std::string& text)
 
 int Usage()
 {
-    fprintf(stderr,
-            "usage: gen-package --profile small|typical|many-small [--seed N] [--build N]\n"
-            "                   [--client FILE] [--spk-pack FILE] [--formats zip,tar.gz,tar.xz,tar] OUTDIR\n");
+    fprintf(
+        stderr,
+        "usage: gen-package --profile small|typical|many-small [--seed N] [--build N]\n"
+        "                   [--client FILE] [--spk-pack FILE] [--formats zip,tar.gz,tar.xz,tar] OUTDIR\n");
     return 2;
 }
 

@@ -88,8 +88,8 @@ double SuppressedLoop(int calls)
     static const ustring component("extractor_debug");
     auto start = std::chrono::steady_clock::now();
     for (int i = 0; i < calls; ++i) {
-        Logger::LogMsg(Logger::LEVEL_DEBUG, component, "[DEBUG] extractor(%d): extract %s (%d)\n",
-                       __LINE__, kPayload, i);
+        Logger::LogMsg(Logger::LEVEL_DEBUG, component, "[DEBUG] extractor(%d): extract %s (%d)\n", __LINE__,
+                       kPayload, i);
     }
     return NsSince(start, calls);
 }
@@ -108,7 +108,8 @@ int main(int argc, char** argv)
     }
     fs::path dir = tmpl;
     // No switch file: the shipped configuration, every component at 4.
-    if (Logger::Initialize(Logger::TYPE_FILE, ustring((dir / "launcher.log").string()), ustring(""), 50) != 0) {
+    if (Logger::Initialize(Logger::TYPE_FILE, ustring((dir / "launcher.log").string()), ustring(""), 50) !=
+        0) {
         fprintf(stderr, "cannot set up the log in %s\n", dir.c_str());
         return 2;
     }
@@ -145,13 +146,15 @@ int main(int argc, char** argv)
     printf("file sink, %d messages a round\n", s.messages);
     printf("  fprintf+fflush      %8.0f ns/message\n", plain_ns);
     printf("  Logger::LogMsg      %8.0f ns/message\n", logged_ns);
-    printf("  ratio               %8.2f   (goal <= %.2f) %s\n", ratio, kRatioGoal, ratio <= kRatioGoal ? "met" : "MISSED");
+    printf("  ratio               %8.2f   (goal <= %.2f) %s\n", ratio, kRatioGoal,
+           ratio <= kRatioGoal ? "met" : "MISSED");
     printf("suppressed message, %d calls a round\n", s.suppressed_calls);
     printf("  Logger::LogMsg      %8.1f ns/call (goal < %.0f) %s\n", suppressed_ns, kSuppressedGoalNs,
            suppressed_ns < kSuppressedGoalNs ? "met" : "MISSED");
 
     if (quick && (ratio > kRatioLimit || suppressed_ns > kSuppressedLimitNs)) {
-        printf("FAIL: beyond the quick-mode limits (ratio %.1f, suppressed %.0f ns)\n", kRatioLimit, kSuppressedLimitNs);
+        printf("FAIL: beyond the quick-mode limits (ratio %.1f, suppressed %.0f ns)\n", kRatioLimit,
+               kSuppressedLimitNs);
         return 1;
     }
     return 0;
