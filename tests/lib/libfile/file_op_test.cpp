@@ -96,12 +96,20 @@ TEST_F(FileOpTest, ExactNameExistenceAndInfoWithoutFollowingTheLastLink)
 // The rows run in order on one tree; the state they leave is checked at the end.
 TEST_F(FileOpTest, ResultCodesAndMessages)
 {
-    Make({"real/f", "file", "file2", "tree/a/b/f"},
-         {{"real", "alias"}, {"../../real", "tree/a/up"}, {std::string(1024, 'x'), "long"}});
+    Make({"real/f", "file", "file2", "tree/a/b/f"}, {{"real", "alias"},
+                                                     {"../../real", "tree/a/up"},
+                                                     {std::string(1024, 'x'), "long"},
+                                                     {"real", "rel"},
+                                                     {"loop", "loop"}});
     Write(P("copy"), "a longer file");
     const std::string no = P("missing"),
                       noDir = "FSMKDir: Create a folder but local file system is not directory '";
     const std::string info = "[INFO] file-op(#): FSMKDirP: path: " + P("file") + " is ";
+    const std::string paths = P("real/f") + "|" + P("real") + "|-1|-1|";
+    auto real = [](const std::string& path) {
+        ustring p(path.c_str());
+        return (FSGetRealPath(p) == 0 ? std::string(p.c_str()) : "-1") + "|";
+    };
     mode_t mask = umask(022);
     struct Row {
         const char* tag;
@@ -124,9 +132,14 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
          -1, info + "existing file or symbolic link pointed to file\n"},
         {"-p replacing a file", [&] { return FSMKDirP(P("file2/c"), nullptr, true, 0xFFFF); }, 0, ""},
         {"-p through a link, mode", [&] { return FSMKDirP(P("alias/n/m/"), nullptr, false, 0700); }, 0, ""},
-        {"from a root not above, and onto itself",
-         [&] { return FSMKDirFromRoot(dir + "x/a", dir) * 10 + FSMKDirFromRoot(dir, dir); }, -10,
-         E("root '" + dir + "' is not a parent folder of target '" + dir + "x/a'")},
+        {"from a root not above or longer, onto itself, and below it",
+         [&] {
+             return FSMKDirFromRoot(dir + "x/a", dir) * 10 + FSMKDirFromRoot("/", dir) +
+                    FSMKDirFromRoot(dir, dir) * 2 + FSMKDirFromRoot(P("r/s"), dir) * 4;
+         },
+         -11,
+         E("root '" + dir + "' is not a parent folder of target '" + dir + "x/a'") +
+             E("Giving a root '" + dir + "' whose length is larger then target's '/'.")},
         {"copy over a longer file", [&] { return FSCopy(P("real/f"), P("copy"), false); }, 0, ""},
         {"copy from nothing", [&] { return FSCopy(no, P("x"), false); }, -1,
          E("CopyFile: open(" + no + "): " + Why(ENOENT) + " (2)")},
@@ -158,11 +171,40 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
         {"paths",
          [&] {
              return FSParentPath("/a") == ustring("/") && FSBaseName("/a/b/").empty() &&
-                    FSIsParentFolder("/a", "/a") && !FSIsParentFolder("/a", "/ab");
+                    FSIsParentFolder("/a", "/a") && !FSIsParentFolder("/a", "/ab") &&
+                    FSParentPath("/a/b") == ustring("/a") && !FSIsParentFolder("/a/b", "/a");
          },
          1, ""},
-        {"absence is no denial", [&] { return hasFilePermission(no, R_OK) * 2 + isFileLocked(no, R_OK); }, 2,
-         ""}};
+        {"absence is no denial",
+         [&] {
+             return hasFilePermission(no, R_OK) * 2 + isFileLocked(no, R_OK) +
+                    hasFilePermission(dir, R_OK) * 4 + isFileLocked(dir, R_OK) * 8;
+         },
+         6, ""},
+        {"link, then onto a taken name",
+         [&] { return FSCreateSymbolicLink(P("real/f"), P("l")) * 10 + FSCreateSymbolicLink("x", P("l")); },
+         -1,
+         E("FSCreateSymbolicLink: Failed to create symbolic link 'x' -> '" + P("l") +
+           "' (code: 17, msg: " + Why(EEXIST) + ")")},
+        {"real path: relative, absolute and looping links, a trailing slash",
+         [&] { return real(P("l")) + real(P("rel/")) + real(P("loop")) + real(P("file/..")) == paths; }, 1,
+         ""},
+        {"temporary file, its times and owner; none of them for nothing",
+         [&] {
+             ustring t, u;
+             _FILE_INFO_tag a, b;
+             return !FSMktemp(P("real"), t) && !FSUTime(t, 5, 7) && !FSChown(t, getuid(), getgid()) &&
+                    !GetFileInfo(t, a) && !FSStat(t, b, true) && a == b && FSTimeEqual(a.mtime, 7) &&
+                    fs::status(t.c_str()).permissions() == fs::perms(0644) && FSMktemp(no, u) &&
+                    FSUTime(no, 5, 7) && FSChown(no, 0, 0) && FSStat("", a, false) && a != _FILE_INFO_tag();
+         },
+         1,
+         E("mkstemp(" + no + "/XXXXXX): " + Why(ENOENT)) +
+             E("FSChown: Failed to chown '" + no + "' (code: 2, msg: " + Why(ENOENT) + ")")},
+        {"volume type of a folder and of nothing",
+         [&] { return isMountPoint(dir) + IsMSDOS(dir) + isMountPoint(no) + IsMSDOS(no); }, 0,
+         E("isMountPoint: Failed to get file system info '" + no + "'. " + Why(ENOENT)) +
+             E("IsSupportLargeFile: Failed to get file system info '" + no + "'. " + Why(ENOENT))}};
     for (const Row& row : rows) {
         EXPECT_EQ(row.result, row.op()) << row.tag;
         EXPECT_EQ(row.log, NewLog()) << row.tag;
@@ -170,7 +212,7 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
     EXPECT_EQ(022u, umask(mask));
     EXPECT_EQ(fs::perms::owner_all, fs::status(P("real/n/m")).permissions());
     EXPECT_TRUE(fs::is_regular_file(P("file")) && fs::is_directory(P("file2/c")) &&
-                fs::is_directory(P("p/q")));
+                fs::is_directory(P("p/q")) && fs::is_directory(P("r/s")));
     EXPECT_TRUE(Read(P("renamed")) == "12345" && Read(P("real/f")) == "12345")
         << "links removed, not targets";
     EXPECT_FALSE(fs::exists(P("copy")) || fs::exists(P("moved")) || fs::exists(P("tree")) ||
@@ -189,9 +231,14 @@ TEST_F(FileOpTest, MovesToAnotherVolumeAndOntoAFullOne)
     Make({"tree/a/f"}, {{"a/f", "tree/l"}});
     fs::create_directory(P("tree/empty"));
     Write(P("big"), std::string(2 << 20, 'x'));
+    ASSERT_EQ(0, mkfifo(P("pipe").c_str(), 0600));
     EXPECT_EQ(0, FSRename(P("tree"), P("vol/tree"), true));
+    EXPECT_EQ(-3, FSRename(P("pipe"), P("vol/pipe"), true));
     EXPECT_EQ(-2, FSCopy(P("big"), P("vol/big"), true));
-    EXPECT_EQ(E("CopyFile: write: " + Why(ENOSPC) + " (28)"), NewLog());
+    EXPECT_EQ(
+        E("FSRename: Cannot move '" + P("pipe") + "' of type 6 to another volume '" + P("vol/pipe") + "'") +
+            E("CopyFile: write: " + Why(ENOSPC) + " (28)"),
+        NewLog());
     EXPECT_TRUE(fs::exists(P("big")) && fs::exists(P("vol/big"))) << "a failed move keeps both sides";
     EXPECT_TRUE(!fs::exists(P("tree")) && Read(P("vol/tree/a/f")) == "12345" &&
                 fs::is_directory(P("vol/tree/empty")));
