@@ -5,6 +5,10 @@
 #include "../lib_test.h"
 
 using U16 = unsigned short;
+const U16* W(const char16_t* s)
+{
+    return reinterpret_cast<const U16*>(s);
+}
 const size_t npos = ustring::npos;
 std::u16string utf16(const ustring& s)
 {
@@ -94,7 +98,19 @@ TEST(Ustring, TrimsAndEditsKeepBothFormsCurrent)
         {"assign own part", "abca", [](ustring& s) { s.assign(s, 1, 2); }, "bc"},
         {"append own, buffer moves", block, [](ustring& s) { s.append(s.c_str()); }, block + block},
         {"append own UTF-16", "\xC3\xA9z", [](ustring& s) { s.append(s.c_str_utf16()); },
-         "\xC3\xA9z\xC3\xA9z"}};
+         "\xC3\xA9z\xC3\xA9z"},
+        {"= units, += units", "ab", [](ustring& s) { (s = W(u"x\u00e9")) += W(u"y"); }, "x\xC3\xA9y"},
+        {"assign n units, then own units cut", "ab",
+         [](ustring& s) { s.assign(W(u"xyz"), 2).assign(s.c_str_utf16(), 1); }, "x"},
+        {"= unit", "ab", [](ustring& s) { s = U16(0xE9); }, "\xC3\xA9"},
+        {"= char, n chars", "ab", [](ustring& s) { (s = 'c').append('d', 2); }, "cdd"},
+        {"= string, += string", "ab", [](ustring& s) { (s = std::string("xy")) += std::string("z"); }, "xyz"},
+        {"+= text, = own text", "ab", [](ustring& s) { (s += "cd") = s.c_str(); }, "abcd"},
+        {"+ each kind", "ab", [](ustring& s) { s = s + 'c' + U16(0xE9) + W(u"d") + "e"; },
+         "abc\xC3\xA9"
+         "de"},
+        {"read a word", "ab", [](ustring& s) { std::istringstream(" w1 w2") >> s; }, "w1"},
+        {"a lone surrogate empties both", "ab", [](ustring& s) { s += U16(0xD800); }, ""}};
     for (const Row& row : rows) {
         ustring s(row.start);
         ASSERT_EQ(utf16(ustring(row.start)), utf16(s)) << row.tag;
@@ -140,8 +156,10 @@ TEST(Ustring, Compare)
     auto sign = [](int v) { return (v > 0) - (v < 0); };
     for (const Row& row : rows) {
         ustring a(row.a), b(row.b);
-        EXPECT_EQ(std::make_tuple(row.exact, row.folded, row.exact == 0, row.exact<0, row.exact> 0),
-                  std::make_tuple(sign(a.compare(b)), sign(ustring::compare(a, b, true)), a == b, a<b, a> b))
+        EXPECT_EQ(std::make_tuple(row.exact, row.folded, row.exact == 0, row.exact<0, row.exact> 0,
+                                  row.exact <= 0, row.exact >= 0, row.exact != 0),
+                  std::make_tuple(sign(ustring::compare(a, b, false)), sign(ustring::compare(a, b, true)),
+                                  a == b, a<b, a> b, a <= b, a >= b, a != b))
             << row.a << " vs " << row.b;
     }
     EXPECT_TRUE(ustring("abX").compare(ustring("abY"), 2) == 0 &&
