@@ -159,6 +159,20 @@ TEST_F(LoggerTest, AFileThatCannotBeWrittenNeverBreaksTheCaller)
     EXPECT_EQ(Lines{Line(3, "after reload")}, Unstamped(Read(P("sub/launcher.log"))));
 }
 
+// The standard streams take the same lines; a file log needs a path.
+TEST_F(LoggerTest, StandardStreams)
+{
+    EXPECT_EQ(-1, Logger::Initialize(Logger::TYPE_FILE, ustring(""), ustring(""), 50));
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(0, Logger::Initialize(Logger::TYPE_STDOUT, ustring(""), ustring(""), 50));
+    Log(3, "c", "out");
+    EXPECT_EQ(0, Logger::Initialize(Logger::TYPE_STDERR, ustring(""), ustring(""), 50));
+    Log(3, "c", "err");
+    EXPECT_EQ(Lines{Line(3, "out")}, Unstamped(testing::internal::GetCapturedStdout()));
+    EXPECT_EQ(Lines{Line(3, "err")}, Unstamped(testing::internal::GetCapturedStderr()));
+}
+
 // Two writers across rotations: a torn, lost or misplaced line breaks a thread's sequence; a second rotation
 // at the same limit leaves a short file.
 TEST_F(LoggerTest, TwoThreadsAcrossRotations)
