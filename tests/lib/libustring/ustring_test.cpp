@@ -5,10 +5,6 @@
 #include "../lib_test.h"
 
 using U16 = unsigned short;
-const U16* W(const char16_t* s)
-{
-    return reinterpret_cast<const U16*>(s);
-}
 const size_t npos = ustring::npos;
 std::u16string utf16(const ustring& s)
 {
@@ -99,16 +95,17 @@ TEST(Ustring, TrimsAndEditsKeepBothFormsCurrent)
         {"append own, buffer moves", block, [](ustring& s) { s.append(s.c_str()); }, block + block},
         {"append own UTF-16", "\xC3\xA9z", [](ustring& s) { s.append(s.c_str_utf16()); },
          "\xC3\xA9z\xC3\xA9z"},
-        {"= units, += units", "ab", [](ustring& s) { (s = W(u"x\u00e9")) += W(u"y"); }, "x\xC3\xA9y"},
+        {"= units, += units", "ab",
+         [](ustring& s) { (s = ustring("x\xC3\xA9").c_str_utf16()) += ustring("y").c_str_utf16(); },
+         "x\xC3\xA9y"},
         {"assign n units, then own units cut", "ab",
-         [](ustring& s) { s.assign(W(u"xyz"), 2).assign(s.c_str_utf16(), 1); }, "x"},
+         [](ustring& s) { s.assign(ustring("xyz").c_str_utf16(), 2).assign(s.c_str_utf16(), 1); }, "x"},
         {"= unit", "ab", [](ustring& s) { s = U16(0xE9); }, "\xC3\xA9"},
         {"= char, n chars", "ab", [](ustring& s) { (s = 'c').append('d', 2); }, "cdd"},
         {"= string, += string", "ab", [](ustring& s) { (s = std::string("xy")) += std::string("z"); }, "xyz"},
         {"+= text, = own text", "ab", [](ustring& s) { (s += "cd") = s.c_str(); }, "abcd"},
-        {"+ each kind", "ab", [](ustring& s) { s = s + 'c' + U16(0xE9) + W(u"d") + "e"; },
-         "abc\xC3\xA9"
-         "de"},
+        {"+ each kind", "ab", [](ustring& s) { s = s + U16(0xE9) + '-' + ustring("d").c_str_utf16() + "e"; },
+         "ab\xC3\xA9-de"},
         {"read a word", "ab", [](ustring& s) { std::istringstream(" w1 w2") >> s; }, "w1"},
         {"a lone surrogate empties both", "ab", [](ustring& s) { s += U16(0xD800); }, ""}};
     for (const Row& row : rows) {
@@ -168,12 +165,7 @@ TEST(Ustring, Compare)
 
 TEST(Ustring, SubstrNormalisationAndIcuWarnings)
 {
-    try {
-        ustring("abc").substr(4, 1);
-        ADD_FAILURE() << "no throw";
-    } catch (const std::out_of_range& e) {
-        EXPECT_STREQ("substr", e.what());
-    }
+    EXPECT_THROW(ustring("abc").substr(4, 1), std::out_of_range);
     EXPECT_STREQ("\xC3\xA9", ustring("e\xCC\x81").normalize(ustring::nfc).c_str());
     EXPECT_EQ(u"e\u0301", utf16(ustring::normalize(ustring("\xC3\xA9"), ustring::nfd)));
     EXPECT_TRUE(ustring::is_valid(ustring("\xC3\xA9")) && !ustring::is_valid(ustring("\xC3\x28")));
