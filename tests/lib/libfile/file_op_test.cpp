@@ -106,6 +106,9 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
         ustring p(path.c_str());
         return (FSGetRealPath(p) == 0 ? std::string(p.c_str()) : "-1") + "|";
     };
+    DIR_HANDLE h;  // what the rows fill in
+    ustring t;
+    _FILE_INFO_tag a, b;
     mode_t mask = umask(022);
     struct Row {
         const char* tag;
@@ -162,18 +165,10 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
          ""},
         {"remove a link to a folder", [&] { return FSRemove(P("alias"), false); }, 0, ""},
         {"remove a tree holding a link", [&] { return FSRemove(P("tree"), false); }, 0, ""},
-        {"list nothing",
-         [&] {
-             DIR_HANDLE h;
-             return FSOpenDir(no, 0, h);
-         },
-         -1, E("FSOpenDir: Failed to open directory '" + no + "'. " + Why(ENOENT))},
-        {"long link",
-         [&] {
-             ustring t;
-             return FSReadSymbolicLink(P("long"), t);
-         },
-         -1, E("FSReadSymbolicLink: path of '" + P("long") + "' is more than 1024")},
+        {"list nothing", [&] { return FSOpenDir(no, 0, h); }, -1,
+         E("FSOpenDir: Failed to open directory '" + no + "'. " + Why(ENOENT))},
+        {"long link", [&] { return FSReadSymbolicLink(P("long"), t); }, -1,
+         E("FSReadSymbolicLink: path of '" + P("long") + "' is more than 1024")},
         {"paths",
          [&] {
              return FSParentPath("/a") == ustring("/") && FSBaseName("/a/b/").empty() &&
@@ -185,11 +180,9 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
          ""},
         {"temporary file, its times and owner; none of them for nothing",
          [&] {
-             ustring t, u;
-             _FILE_INFO_tag a, b;
              return !FSMktemp(P("real"), t) && !FSUTime(t, 5, 7) && !FSChown(t, getuid(), getgid()) &&
                     !GetFileInfo(t, a) && !FSStat(t, b, true) && a == b && FSTimeEqual(a.mtime, 7) &&
-                    fs::status(t.c_str()).permissions() == fs::perms(0644) && FSMktemp(no, u) &&
+                    fs::status(t.c_str()).permissions() == fs::perms(0644) && FSMktemp(no, t) &&
                     FSUTime(no, 5, 7) && FSChown(no, 0, 0) && FSStat("", a, false) && a != _FILE_INFO_tag();
          },
          1,
