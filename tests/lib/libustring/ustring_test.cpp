@@ -151,10 +151,9 @@ TEST(Ustring, Compare)
     auto sign = [](int v) { return (v > 0) - (v < 0); };
     for (const Row& row : rows) {
         ustring a(row.a), b(row.b);
-        EXPECT_EQ(std::make_tuple(row.exact, row.folded, row.exact == 0, row.exact<0, row.exact> 0,
-                                  row.exact <= 0, row.exact >= 0, row.exact != 0),
+        EXPECT_EQ(std::make_tuple(row.exact, row.folded, row.exact == 0, row.exact<0, row.exact> 0),
                   std::make_tuple(sign(ustring::compare(a, b, false)), sign(ustring::compare(a, b, true)),
-                                  a == b, a<b, a> b, a <= b, a >= b, a != b))
+                                  a == b, a<b, a> b))
             << row.a << " vs " << row.b;
     }
     EXPECT_TRUE(ustring("abX").compare(ustring("abY"), 2) == 0 &&
