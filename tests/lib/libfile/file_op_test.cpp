@@ -102,6 +102,9 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
     const std::string no = P("missing"),
                       noDir = "FSMKDir: Create a folder but local file system is not directory '";
     const std::string info = "[INFO] file-op(#): FSMKDirP: path: " + P("file") + " is ";
+    DIR_HANDLE h;  // what the rows fill in
+    ustring t;
+    _FILE_INFO_tag a, b;
     mode_t mask = umask(022);
     struct Row {
         const char* tag;
@@ -127,6 +130,7 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
         {"from a root not above, and onto itself",
          [&] { return FSMKDirFromRoot(dir + "x/a", dir) * 10 + FSMKDirFromRoot(dir, dir); }, -10,
          E("root '" + dir + "' is not a parent folder of target '" + dir + "x/a'")},
+        {"below a root", [&] { return FSMKDirFromRoot(P("r/s"), dir); }, 0, ""},
         {"copy over a longer file", [&] { return FSCopy(P("real/f"), P("copy"), false); }, 0, ""},
         {"copy from nothing", [&] { return FSCopy(no, P("x"), false); }, -1,
          E("CopyFile: open(" + no + "): " + Why(ENOENT) + " (2)")},
@@ -141,28 +145,42 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
          ""},
         {"rename", [&] { return FSRename(P("moved"), P("renamed"), true); }, 0, ""},
         {"remove, missing or empty", [&] { return FSRemove(no, false) * 10 + FSRemove("", false); }, -1, ""},
+        {"real path: a link with a trailing slash, a loop, a file taken for a folder",
+         [&] {
+             return !FSCreateSymbolicLink(P("loop"), P("loop")) && !FSGetRealPath(t = P("alias/").c_str()) &&
+                    t == P("real").c_str() && FSGetRealPath(t = P("loop").c_str()) == -1 &&
+                    FSGetRealPath(t = P("file/..").c_str()) == -1;
+         },
+         1, ""},
         {"remove a link to a folder", [&] { return FSRemove(P("alias"), false); }, 0, ""},
         {"remove a tree holding a link", [&] { return FSRemove(P("tree"), false); }, 0, ""},
-        {"list nothing",
-         [&] {
-             DIR_HANDLE h;
-             return FSOpenDir(no, 0, h);
-         },
-         -1, E("FSOpenDir: Failed to open directory '" + no + "'. " + Why(ENOENT))},
-        {"long link",
-         [&] {
-             ustring t;
-             return FSReadSymbolicLink(P("long"), t);
-         },
-         -1, E("FSReadSymbolicLink: path of '" + P("long") + "' is more than 1024")},
+        {"list nothing", [&] { return FSOpenDir(no, 0, h); }, -1,
+         E("FSOpenDir: Failed to open directory '" + no + "'. " + Why(ENOENT))},
+        {"long link", [&] { return FSReadSymbolicLink(P("long"), t); }, -1,
+         E("FSReadSymbolicLink: path of '" + P("long") + "' is more than 1024")},
         {"paths",
          [&] {
              return FSParentPath("/a") == ustring("/") && FSBaseName("/a/b/").empty() &&
-                    FSIsParentFolder("/a", "/a") && !FSIsParentFolder("/a", "/ab");
+                    FSIsParentFolder("/a", "/a") && !FSIsParentFolder("/a", "/ab") &&
+                    FSParentPath("/a/b") == ustring("/a") && !FSIsParentFolder("/a/b", "/a");
          },
          1, ""},
         {"absence is no denial", [&] { return hasFilePermission(no, R_OK) * 2 + isFileLocked(no, R_OK); }, 2,
-         ""}};
+         ""},
+        {"temporary file, its times and owner; none of them for nothing",
+         [&] {
+             return !FSMktemp(P("real"), t) && !FSUTime(t, 5, 7) && !FSChown(t, getuid(), getgid()) &&
+                    !GetFileInfo(t, a) && !FSStat(t, b, true) && a == b && FSTimeEqual(a.mtime, 7) &&
+                    fs::status(t.c_str()).permissions() == fs::perms(0644) && FSMktemp(no, t) &&
+                    FSUTime(no, 5, 7) && FSChown(no, 0, 0) && FSStat("", a, false) && a != _FILE_INFO_tag();
+         },
+         1,
+         E("mkstemp(" + no + "/XXXXXX): " + Why(ENOENT)) +
+             E("FSChown: Failed to chown '" + no + "' (code: 2, msg: " + Why(ENOENT) + ")")},
+        {"volume type of a folder and of nothing",
+         [&] { return isMountPoint(dir) + IsMSDOS(dir) + isMountPoint(no) + IsMSDOS(no); }, 0,
+         E("isMountPoint: Failed to get file system info '" + no + "'. " + Why(ENOENT)) +
+             E("IsSupportLargeFile: Failed to get file system info '" + no + "'. " + Why(ENOENT))}};
     for (const Row& row : rows) {
         EXPECT_EQ(row.result, row.op()) << row.tag;
         EXPECT_EQ(row.log, NewLog()) << row.tag;
@@ -170,7 +188,7 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
     EXPECT_EQ(022u, umask(mask));
     EXPECT_EQ(fs::perms::owner_all, fs::status(P("real/n/m")).permissions());
     EXPECT_TRUE(fs::is_regular_file(P("file")) && fs::is_directory(P("file2/c")) &&
-                fs::is_directory(P("p/q")));
+                fs::is_directory(P("p/q")) && fs::is_directory(P("r/s")));
     EXPECT_TRUE(Read(P("renamed")) == "12345" && Read(P("real/f")) == "12345")
         << "links removed, not targets";
     EXPECT_FALSE(fs::exists(P("copy")) || fs::exists(P("moved")) || fs::exists(P("tree")) ||

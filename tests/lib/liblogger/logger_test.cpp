@@ -106,18 +106,20 @@ Lines Unstamped(const std::string& content)
 class LoggerTest : public FolderTest {
 protected:
     void TearDown() override { Logger::Destroy(), FolderTest::TearDown(); }
-    int Init(const std::string& path, const std::string& levels = "")
+    int Init(const std::string& path)
     {
-        return Logger::Initialize(Logger::TYPE_FILE, ustring(P(path).c_str()), ustring(levels.c_str()), 50);
+        return Logger::Initialize(Logger::TYPE_FILE, ustring(P(path).c_str()), ustring(""), 50);
     }
     std::string N(int i) const { return P("launcher.log_" + std::to_string(i)); }
 };
 
-// A component the switch file does not name has threshold 4.
+// A component the switch file does not name has threshold 4. Lines on stderr take the same form as in a file.
 TEST_F(LoggerTest, LineFormatAndThresholds)
 {
     Write(P("launcher.debug"), "# on\nlauncher_debug=7\nservice_debug = 5\n");
-    ASSERT_EQ(0, Init("launcher.log", P("launcher.debug")));
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(0,
+              Logger::Initialize(Logger::TYPE_STDERR, ustring(""), ustring(P("launcher.debug").c_str()), 50));
     Lines expected;
     for (const auto& row :
          {std::make_pair("launcher_debug", 7), {"service_debug", 5}, {"extractor_debug", 4}}) {
@@ -126,7 +128,7 @@ TEST_F(LoggerTest, LineFormatAndThresholds)
         for (int level = 3; level <= row.second; ++level)
             expected.push_back(Line(level, row.first));
     }
-    EXPECT_EQ(expected, Unstamped(Read(P("launcher.log"))));
+    EXPECT_EQ(expected, Unstamped(testing::internal::GetCapturedStderr()));
 }
 
 // Exactly 1 MiB keeps the file; the message that passes it still lands there and the next one starts a fresh

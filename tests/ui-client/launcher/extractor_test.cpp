@@ -5,10 +5,7 @@
 #include "launcher.h"
 #include "ui_test.h"
 
-static long OpenDescriptors()
-{
-    return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
-}
+#include "../../lib/lib_test.h"
 
 TEST(Extractor, CountsExtractsAndRefusesWithoutLeakingDescriptors)
 {
