@@ -259,8 +259,7 @@ def hostile_tar(spk, stage, name):
 
 class Scene:
     def __init__(self, r, args):
-        self.r, self.bundle_src, self.spk_pack, self.client = r, *args
-        self.work = tempfile.mkdtemp(prefix="nimbulo-scen-")
+        self.r, self.work, self.bundle_src, self.spk_pack, self.client = r, *args
         os.chmod(self.work, 0o755)
         self.home = os.path.join(self.work, r["home"])
         self.nim = os.path.join(self.home, ".Nimbulo")
@@ -348,7 +347,7 @@ class Scene:
                "ASAN_OPTIONS": "detect_leaks=0", "XDG_RUNTIME_DIR": self.work}
         if os.path.isdir(f"{self.work}/loc"):
             env["LOCPATH"] = f"{self.work}/loc"
-        env.update({k: v for k, v in os.environ.items() if k.endswith("SAN_OPTIONS")})
+        env.update({k: v for k, v in os.environ.items() if k.endswith("SAN_OPTIONS") or k == "LD_PRELOAD"})
         env.update(self.r["env"], **(extra or {}))
         return {k: v for k, v in env.items() if v is not None}
 
@@ -570,9 +569,7 @@ def run_row(r, args):
             links = [os.path.realpath(f"/proc/{pid}/fd/{fd}") for fd in range(3)]
             if not alive(pid) or any(l.startswith(s.nim) for l in links):
                 ok = fail(r, f"the client {'holds ' + str(links) if alive(pid) else 'has ended'}")
-    if ok:
-        subprocess.run(["rm", "-rf", s.work])
-    else:
+    if not ok:
         print(f"scenario.{r['name']}: kept for inspection: {s.work}", file=sys.stderr)
     return ok
 
@@ -581,7 +578,7 @@ def main():
     if sys.argv[1:] == ["--list"]:
         print("\n".join(ROWS))
         return 0
-    if len(sys.argv) == 6 and sys.argv[1] == "--inside":
+    if len(sys.argv) == 7 and sys.argv[1] == "--inside":
         try:
             return 0 if run_row(ROWS[sys.argv[2]], sys.argv[3:]) else 1
         except Exception as e:
@@ -597,8 +594,11 @@ def main():
     if r["user"] and os.geteuid() != 0:
         print(f"scenario.{name}: SKIPPED: running the launcher as uid {r['user']} needs root")
         return 77
+    work = tempfile.mkdtemp(prefix="nimbulo-scen-")
     rc = subprocess.run(["unshare", "--pid", "--fork", "--mount-proc", "sh", "-c", '"$@" & wait $!', "sh",
-                         sys.executable, os.path.abspath(__file__), "--inside", name] + args).returncode
+                         sys.executable, os.path.abspath(__file__), "--inside", name, work] + args).returncode
+    if rc == 0:  # only now, with every client of the row gone: a late one would make its home again
+        subprocess.run(["rm", "-rf", work])
     if rc < 0 or rc > 128:
         print(f"scenario.{name}: the runner was killed (status {rc}): the launcher signalled its process group or every process")
     if r["xfail"]:  # passes the suite while the known fault is there, fails once it is gone
