@@ -13,7 +13,7 @@ runs in PID and mount namespaces of its own, under a shell as process 1 that
 reaps the clients it adopts; rows that need to differ in permissions run the
 launcher as user 65534.
 """
-import hashlib, io, os, random, re, shutil, subprocess, sys, tarfile, tempfile, time
+import ctypes, hashlib, io, os, random, re, shutil, subprocess, sys, tarfile, tempfile, time
 
 CLIENT, INFO = "Contents/MacOS/nimbulo-pelora-ui", "Contents/Resources/INFO"
 PLIST = "<plist><dict><key>CFBundleExecutable</key><string>nimbulo-pelora-ui</string></dict></plist>\n"
@@ -29,6 +29,9 @@ def no_pid(v): return f"[NOTE] mac/mac-service(N): pid file '~/.Nimbulo/ui.pid' 
 def backup_failed(i, last=""):
     return (f"[ERROR] nimbulo-service(N): failed to backup app from '~/.Nimbulo/Nimbulo.app' -> "
             f"'~/.Nimbulo/Nimbulo.app_tmp{i or ''}'{last}")
+def not_client(pid, runs):
+    return (f"[NOTE] mac/mac-service(N): pid {pid} runs '{runs}', not the client '~/.Nimbulo/Nimbulo.app/{CLIENT}', "
+            "no need to terminate")
 def info(build): return f"[Version]\nmajor_version=3\nminor_version=1\nbuild_version={build}\nicon_overlay_version=1\n"
 UPGRADE_LOG = [  # an upgrade of build 100 to 312 with every debug component at 7
     "[DEBUG] launcher(N): running", "[INFO] nimbulo-service(N): target_version = (3, 1, 312, 1)",
@@ -44,24 +47,32 @@ UPGRADE_LOG = [  # an upgrade of build 100 to 312 with every debug component at 
 
 # Row fields. Starting state: home (folder name), old (installed build, None:
 # nothing installed), old_info (its INFO text), old_client (its executable
-# present), ship (build in the bundle's INFO, None: no INFO), fmt (spk-pack
-# format), pkg (damage: missing empty garbage truncated truncated_gz dotdot
+# present), ship (build in the bundle's INFO, None: no INFO), pkg_build (build in
+# the package's INFO when it differs), fmt (spk-pack format), pkg (damage: missing empty garbage truncated truncated_gz dotdot
 # absolute), extra (more package entries), backups (indices of stale backups),
 # aged (~/.Nimbulo/app present), running (old client started first, with
 # delay: its NIMBULO_SAMPLE_STOP_DELAY_MS), pid (ui.pid text; {sleeper},
-# {root_sleeper}, {gone}, {self} (the runner), {launcher} are replaced), debug (debug switch file),
-# env (None unsets), user (uid to run the launcher as), prep (folder modes),
-# via (link, chain, path), stdio (closed, gone_reader), bundle (where the
-# copy lies), mode (crash:<point> with a package of 1,500 entries, fullvol, second: another start while
-# the first stops the client, pair: a copy of the bundle started alongside).
+# {root_sleeper}, {gone}, {self} (the runner), {launcher}, {nobody_client} (the
+# old client run by uid 65534) are replaced), debug (debug switch file),
+# env (None unsets; a relative HOME runs with the home bound over /root),
+# user (uid to run the launcher as), nokill (root without CAP_KILL), prep (folder
+# modes), via (link: a relative link in another folder, chain: a relative link
+# to that, started by a relative path from /, path: the link's name on PATH),
+# stdio (descriptors closed, or gone_reader: stdout a pipe without reader),
+# bundle (where the copy lies), mode (crash:<point> with a package of 1,500 entries, fullvol, second: another start while
+# the first stops the client, pair: a copy of the bundle started alongside, 1,500 entries).
 # Outcome: tree (new, old, none), starts (builds started by the run), left
-# (backups left), log (whole lines in this order), exact (the whole log),
-# nolog, stderr (lines in order on stderr), fds (the client holds only
-# 0, 1, 2), xfail (why it fails today).
-BASE = dict(home="home", old="100", old_info=None, old_client=True, ship="312", fmt="tar.gz", pkg=None, extra=(),
-            backups=(), aged=True, running=False, delay=0, pid=None, debug=ALL7, env={}, user=None, prep=None,
-            via=None, stdio=None, bundle="b/Nimbulo.app", mode=None, tree="new", starts=("312",), left=(),
-            log=(), exact=False, nolog=(), stderr=(), fds=False, xfail=None)
+# (backups left), log (whole lines in this order; {name} and {name_exe} stand
+# for the pids above and what they run), exact (the whole log; stderr if given),
+# once (texts in exactly one log line), nolog, stderr (lines in order on
+# stderr), fds (the client runs holding only 0, 1, 2, none of them ours),
+# within (most seconds from the stop to the extraction, by the log's time
+# stamps: the stop schedule's probes take five), xfail (why it fails today).
+BASE = dict(home="home", old="100", old_info=None, old_client=True, ship="312", pkg_build=None, fmt="tar.gz", pkg=None,
+            extra=(), backups=(), aged=True, running=False, delay=0, pid=None, debug=ALL7, env={}, user=None,
+            nokill=False, prep=None, via=None, stdio=None, bundle="b/Nimbulo.app", mode=None, tree="new",
+            starts=("312",), left=(), log=(), exact=False, once=(), nolog=(), stderr=(), fds=False, within=None,
+            xfail=None)
 ROWS = {}
 def row(name, **kw):
     assert not set(kw) - set(BASE), kw
@@ -128,7 +139,14 @@ row("pid_minus_one", pid="pid=-1\n", log=[no_pid("-1")])
 row("pid_huge", pid="pid=9223372036854775807\n", log=[no_pid("9223372036854775807")])
 row("pid_wraps_to_minus_one", pid="pid=4294967295\n", log=[no_pid("4294967295")])
 row("pid_garbage", pid="\x01\xfe garbage\npid=1\n", log=[NOT_READ])
-row("pid_refused_eperm", user=NOBODY, pid="pid={root_sleeper}\n",
+# ---- a pid that is not the installed client's is never signalled, and costs no wait
+row("pid_names_the_launcher", pid="pid={launcher}\n", log=[not_client("{launcher}", "B/Contents/MacOS/Nimbulo")])
+row("pid_one_left_alone", pid="pid=1\n", within=2, log=[not_client(1, "{init_exe}"), UPGRADE_LOG[8]])
+row("pid_unrelated_process_on_upgrade", pid="pid={sleeper}\n", within=2,
+    log=[not_client("{sleeper}", "{sleeper_exe}"), UPGRADE_LOG[8]])
+row("pid_other_users_process", user=NOBODY, pid="pid={root_sleeper}\n", within=2,
+    log=[not_client("{root_sleeper}", "unknown (Permission denied)"), UPGRADE_LOG[8]])
+row("pid_refused_eperm", nokill=True, pid="pid={nobody_client}\n",  # the client, but kill() is refused
     log=["[ERROR] mac/mac-service(N): kill: Operation not permitted (1)", UPGRADE_LOG[8]])
 # ---- log lines and thresholds
 row("log_default_threshold", pkg="missing", debug=None, tree="old", starts=("100",), exact=True, log=[
@@ -146,6 +164,29 @@ row("second_instance_refused", mode="second", running=True, delay=4000,
 row("plugins_searched_in_bundle", env={"QT_DEBUG_PLUGINS": "1"},
     stderr=['QFactoryLoader::QFactoryLoader() checking directory path "B/Contents/Frameworks/plugins/platforms" ...'])
 row("client_gets_only_std_fds", fds=True)
+# one installs and starts the client; the other waits, then finds nothing to do
+row("pair_fresh_home", mode="pair", old=None, once=["extract package:", NO_NEED], nolog=["[ERROR]"])
+row("pair_upgrade_running_client", mode="pair", running=True, once=["extract package:", NO_NEED], nolog=["[ERROR]"])
+row("stderr_closed", stdio=(2,), fds=True)
+row("all_streams_closed", stdio=(0, 1, 2), fds=True)
+row("stdout_closed", stdio=(1,), fds=True)
+row("stdout_reader_gone", stdio="gone_reader")
+# ---- however it is started: the bundle is where the executable really is
+row("via_link", via="link")
+row("via_relative_chain_from_root", via="chain")
+row("via_path", via="path")
+row("bundle_path_blanks_non_ascii", bundle="My Apps \u00e9/Nimbulo \u00fc.app")
+row("no_display_goes_offscreen", env={"DISPLAY": None, "WAYLAND_DISPLAY": None, "QT_QPA_PLATFORM": None},
+    once=["[NOTE] main(N): no dialog can be shown, DISPLAY is not set"])
+row("no_display_user_platform_kept", env={"DISPLAY": None, "QT_QPA_PLATFORM": "minimal"}, nolog=["no dialog"])
+row("home_unset_no_passwd_home", user=NOBODY, env={"HOME": None}, old=None, aged=False, tree="none", starts=(),
+    exact=True, stderr=["[ERROR] main(N): no home folder: HOME is not an absolute path and the password database "
+                        "names no existing folder, nothing done"])
+row("home_relative_uses_passwd_home", env={"HOME": "relative/home"})
+# ---- a package whose INFO lags the bundle's reinstalls at every start: said once
+row("package_info_older_than_bundle", old=None, ship="9", pkg_build="1", starts=("1",), once=[
+    "[WARNING] nimbulo-service(N): installed build 1 is still older than the bundle's build 9: the package's INFO "
+    "does not match the bundle's, so every start installs it again"])
 # ---- crash consistency and a full volume
 row("crash_after_backup", mode="crash:backup")
 row("crash_mid_extraction", mode="crash:entries:800")
@@ -218,8 +259,7 @@ def hostile_tar(spk, stage, name):
 
 class Scene:
     def __init__(self, r, args):
-        self.r, self.bundle_src, self.spk_pack, self.client = r, *args
-        self.work = tempfile.mkdtemp(prefix="nimbulo-scen-")
+        self.r, self.work, self.bundle_src, self.spk_pack, self.client = r, *args
         os.chmod(self.work, 0o755)
         self.home = os.path.join(self.work, r["home"])
         self.nim = os.path.join(self.home, ".Nimbulo")
@@ -238,10 +278,10 @@ class Scene:
         shutil.copytree(f"{self.bundle_src}/Contents/MacOS", f"{b}/Contents/MacOS")
         os.symlink(f"{self.bundle_src}/Contents/Frameworks/plugins", f"{b}/Contents/Frameworks/plugins")
         shutil.copytree(f"{self.bundle_src}/Contents/Resources", f"{b}/Contents/Resources")
-        crash = (r["mode"] or "").startswith("crash")
+        many = 1500 if (r["mode"] or "").startswith("crash") or r["mode"] == "pair" else 0
         big = 2 << 20 if r["mode"] == "fullvol" else 0
         self.new = f"{self.work}/stage/new/Nimbulo.app"
-        stage_app(self.new, r["ship"] or "312", self.client, r["extra"], 1500 if crash else 0, big)
+        stage_app(self.new, r["pkg_build"] or r["ship"] or "312", self.client, r["extra"], many, big)
         spk = f"{b}/Contents/Resources/package/nimbulo.spk"
         os.remove(spk)
         damage = r["pkg"]
@@ -302,12 +342,12 @@ class Scene:
                 os.remove(f"{old}/{CLIENT}")
 
     def env(self, extra=None):
-        env = {"PATH": f"{self.bundle}/Contents/MacOS:/usr/sbin:/usr/bin:/sbin:/bin", "HOME": self.home,
+        env = {"PATH": f"{self.work}/bin:{self.bundle}/Contents/MacOS:/usr/sbin:/usr/bin:/sbin:/bin", "HOME": self.home,
                "LANG": "C.UTF-8", "QT_QPA_PLATFORM": "offscreen", "NIMBULO_SAMPLE_RECORD": self.record,
                "ASAN_OPTIONS": "detect_leaks=0", "XDG_RUNTIME_DIR": self.work}
         if os.path.isdir(f"{self.work}/loc"):
             env["LOCPATH"] = f"{self.work}/loc"
-        env.update({k: v for k, v in os.environ.items() if k.endswith("SAN_OPTIONS")})
+        env.update({k: v for k, v in os.environ.items() if k.endswith("SAN_OPTIONS") or k == "LD_PRELOAD"})
         env.update(self.r["env"], **(extra or {}))
         return {k: v for k, v in env.items() if v is not None}
 
@@ -326,27 +366,33 @@ class Scene:
         r, n = self.r, self.runs
         self.runs += 1
         exe = f"{self.bundle}/Contents/MacOS/Nimbulo"
-        argv = {None: [exe], "path": ["Nimbulo"]}.get(r["via"])
-        if argv is None:  # a link, or a chain of two, to the executable
-            os.symlink(exe, f"{self.work}/link1")
-            if r["via"] == "chain":
-                os.symlink(f"{self.work}/link1", f"{self.work}/link2")
-            argv = [f"{self.work}/link2" if r["via"] == "chain" else f"{self.work}/link1"]
+        argv, cwd = [exe], self.work
+        if r["via"] and not os.path.lexists(f"{self.work}/link2"):
+            os.makedirs(f"{self.work}/bin")
+            os.symlink(os.path.relpath(exe, f"{self.work}/bin"), f"{self.work}/bin/nimbulo")
+            os.symlink("bin/nimbulo", f"{self.work}/link2")
+        if r["via"]:
+            argv = [{"link": f"{self.work}/bin/nimbulo", "chain": f"{self.work[1:]}/link2", "path": "nimbulo"}[r["via"]]]
+            cwd = "/"
         out = open(f"{self.work}/out.{n}", "wb")
         err = open(f"{self.work}/err.{n}", "wb")
         if r["stdio"] == "gone_reader":
-            rd, wr = os.pipe()
+            rd, out = os.pipe()
             os.close(rd)
-            out = err = wr
         uid, pidfile = r["user"], r["pid"] or ""
         def pre():
             if "{launcher}" in pidfile:  # the launcher's own pid, known only here
                 write(f"{self.nim}/ui.pid", pidfile.format(launcher=os.getpid()))
-            if r["stdio"] == "closed":
-                os.close(1), os.close(2)
+            for fd in r["stdio"] if isinstance(r["stdio"], tuple) else ():
+                os.close(fd)
+            if r["nokill"]:  # PR_CAPBSET_DROP of CAP_KILL: root loses it at the exec
+                ctypes.CDLL(None, use_errno=True).prctl(24, 5) == 0 or os._exit(99)
             if uid:
                 os.setgroups([]), os.setgid(uid), os.setuid(uid)
-        p = subprocess.Popen(argv, env=self.env(), stdout=out, stderr=err, preexec_fn=pre)
+        if not (r["env"].get("HOME") or "/").startswith("/"):  # the password database's home, bound to this row's
+            subprocess.run(["mount", "--bind", self.home, "/root"], check=True)
+        p = subprocess.Popen(argv, env=self.env(), stdout=out, stderr=err, preexec_fn=pre, cwd=cwd)
+        self.pid = p.pid
         for f in {out, err}:
             f.close() if hasattr(f, "close") else os.close(f)
         pair = r["mode"] == "pair" and subprocess.Popen([f"{self.bundle}-copy/Contents/MacOS/Nimbulo"], env=self.env(),
@@ -386,6 +432,19 @@ def alive(pid):
     return bool(stat) and stat.rsplit(")", 1)[1].split()[0] != "Z"
 
 
+def stamp(lines, text):
+    """Second of the day of the first line holding text."""
+    h, m, sec = re.search(r" (\d\d):(\d\d):(\d\d) ", next(l for l in lines if text in l)).groups()
+    return int(h) * 3600 + int(m) * 60 + int(sec)
+
+
+def exe_of(pid):
+    try:
+        return os.readlink(f"/proc/{pid}/exe")
+    except OSError:
+        return None
+
+
 def in_order(want, have):
     """The first line of want not found, in order, among the lines of have (None: all found)."""
     it = iter(have)
@@ -417,10 +476,15 @@ def run_row(r, args):
         s.wait_starts(1)
         if not os.path.exists(f"{s.nim}/ui.pid"):
             return fail(r, "the old client did not start")
+    if "{nobody_client}" in (r["pid"] or ""):
+        sleepers["nobody_client"] = s.detached([f"{s.app}/{CLIENT}"], env, NOBODY)
+        s.wait_starts(1)
     if r["pid"] and "{launcher}" not in r["pid"]:
         write(f"{s.nim}/ui.pid", r["pid"].format(**sleepers))
         if r["user"]:
             os.chown(f"{s.nim}/ui.pid", r["user"], r["user"])
+    sleepers["init"] = 1
+    exes = {k + "_exe": exe_of(v) for k, v in sleepers.items()}  # while they run
     before = len(s.starts())
     if r["mode"] and r["mode"].startswith("crash:"):
         if s.launch(crash_point(s, r["mode"][6:])) != "killed":
@@ -428,8 +492,14 @@ def run_row(r, args):
         before = len(s.starts())
     rc = s.launch()
     s.wait_starts(before + len(r["starts"]), not r["starts"])
+    if r["mode"] == "pair":  # time for a second client to show up
+        time.sleep(2)
+    if os.path.ismount("/root"):
+        subprocess.run(["umount", "-l", "/root"], check=True)
     started = [re.search(r" build=(\S*)", l).group(1) for l in s.starts()[before:]]
     log, err = s.log(), s.mask(read(f"{s.work}/err.{s.runs - 1}"))
+    pids = dict(sleepers, launcher=s.pid, **exes)
+    expand = lambda lines: [re.sub(r"\{(\w+)\}", lambda m: str(pids.get(m.group(1), m.group(0))), l) for l in lines]
     if rc != 0:
         ok = fail(r, f"exit status {rc}")
     if started != list(r["starts"]):
@@ -448,19 +518,27 @@ def run_row(r, args):
         ok = fail(r, f"backups left: {left}, expected {allowed}")
     if r["aged"] and os.path.exists(f"{s.nim}/app"):
         ok = fail(r, "~/.Nimbulo/app was not removed")
-    if r["via"] is None and r["stdio"] is None:
+    if r["stdio"] is None and r["env"].get("HOME", "") is not None:
         line = f"lib path = '{s.bundle}/Contents/Frameworks/plugins'"
         if read(f"{s.work}/out.{s.runs - 1}").splitlines()[:1] != [line]:
             ok = fail(r, f"stdout does not start with {line!r}: {read(f'{s.work}/out.{s.runs - 1}')!r}")
-    if r["exact"] and log != list(r["log"]):
-        ok = fail(r, "log differs:\n  " + "\n  ".join(log) + "\nexpected:\n  " + "\n  ".join(r["log"]))
-    for what, want, have in (("log", r["log"], log), ("stderr", r["stderr"], err)):
+    for what, want, have in (("log", expand(r["log"]), log), ("stderr", r["stderr"], err)):
+        if r["exact"] and want and have != want:
+            ok = fail(r, f"{what} differs:\n  " + "\n  ".join(have) + "\nexpected:\n  " + "\n  ".join(want))
         missing = in_order(want, have)
         if missing is not None:
             ok = fail(r, f"{what} lacks, in order: {missing!r}\n  " + "\n  ".join(have))
     for bad in r["nolog"]:
         if any(bad in l for l in log):
             ok = fail(r, f"log has {bad!r}")
+    for text in r["once"]:
+        if sum(text in l for l in log) != 1:
+            ok = fail(r, f"log has {sum(text in l for l in log)} lines with {text!r}, expected one:\n  " + "\n  ".join(log))
+    raw = read(f"{s.nim}/log/launcher.log").splitlines()
+    if r["within"] and (stamp(raw, "extract package:") - stamp(raw, "local appdata exist")) % 86400 > r["within"]:
+        ok = fail(r, "the stop waited before the extraction:\n  " + "\n  ".join(raw))
+    if r["env"].get("HOME", "") is None and (os.listdir(s.home) or os.path.lexists("/.Nimbulo")):
+        ok = fail(r, f"without a home something was created: {os.listdir(s.home)}")
     for name in ("sleeper", "root_sleeper"):
         if not alive(sleepers[name]):
             ok = fail(r, f"the {name} (pid {sleepers[name]}) was signalled")
@@ -487,9 +565,11 @@ def run_row(r, args):
         fds = [l.split(" fds=")[1].split()[0] for l in s.starts()[before:]]
         if [sorted(map(int, f.split(","))) for f in fds] != [[0, 1, 2]]:
             ok = fail(r, f"the client inherited descriptors {fds}")
-    if ok:
-        subprocess.run(["rm", "-rf", s.work])
-    else:
+        for pid in [re.search(r" pid=(\d+)", l).group(1) for l in s.starts()[before:]]:
+            links = [os.path.realpath(f"/proc/{pid}/fd/{fd}") for fd in range(3)]
+            if not alive(pid) or any(l.startswith(s.nim) for l in links):
+                ok = fail(r, f"the client {'holds ' + str(links) if alive(pid) else 'has ended'}")
+    if not ok:
         print(f"scenario.{r['name']}: kept for inspection: {s.work}", file=sys.stderr)
     return ok
 
@@ -498,7 +578,7 @@ def main():
     if sys.argv[1:] == ["--list"]:
         print("\n".join(ROWS))
         return 0
-    if len(sys.argv) == 6 and sys.argv[1] == "--inside":
+    if len(sys.argv) == 7 and sys.argv[1] == "--inside":
         try:
             return 0 if run_row(ROWS[sys.argv[2]], sys.argv[3:]) else 1
         except Exception as e:
@@ -514,8 +594,11 @@ def main():
     if r["user"] and os.geteuid() != 0:
         print(f"scenario.{name}: SKIPPED: running the launcher as uid {r['user']} needs root")
         return 77
+    work = tempfile.mkdtemp(prefix="nimbulo-scen-")
     rc = subprocess.run(["unshare", "--pid", "--fork", "--mount-proc", "sh", "-c", '"$@" & wait $!', "sh",
-                         sys.executable, os.path.abspath(__file__), "--inside", name] + args).returncode
+                         sys.executable, os.path.abspath(__file__), "--inside", name, work] + args).returncode
+    if rc == 0:  # only now, with every client of the row gone: a late one would make its home again
+        subprocess.run(["rm", "-rf", work])
     if rc < 0 or rc > 128:
         print(f"scenario.{name}: the runner was killed (status {rc}): the launcher signalled its process group or every process")
     if r["xfail"]:  # passes the suite while the known fault is there, fails once it is gone
