@@ -101,7 +101,12 @@ TEST(Ustring, TrimsAndEditsKeepBothFormsCurrent)
         {"= unit", "ab", [](ustring& s) { s = U16(0xE9); }, "\xC3\xA9"},
         {"= char, n chars", "ab", [](ustring& s) { (s = 'c').append('d', 2); }, "cdd"},
         {"= string, += string", "ab", [](ustring& s) { (s = std::string("xy")) += std::string("z"); }, "xyz"},
-        {"+= text, = own text", "ab", [](ustring& s) { (s += "cd") = s.c_str(); }, "abcd"},
+        {"+= text, = own text", "ab",
+         [](ustring& s) {
+             s += "cd";
+             s = s.c_str();
+         },
+         "abcd"},
         {"+ each kind", "ab", [](ustring& s) { s = s + U16(0xE9) + '-' + ustring("d").c_str_utf16() + "e"; },
          "ab\xC3\xA9-de"},
         {"read a word", "ab", [](ustring& s) { std::istringstream(" w1 w2") >> s; }, "w1"},
