@@ -1,6 +1,7 @@
 // Linux: path resolution and file-system type names from POSIX and the
 // kernel's statfs and inode-flag interfaces; processes through /proc.
 #include "platform/platform.h"
+#include "platform/platform_linux_files.h"
 
 #include <cerrno>
 #include <climits>
@@ -329,9 +330,7 @@ int PlatformFileSystemTypeName(const ustring& path, ustring& typeName)
     return 0;
 }
 
-namespace {
-
-bool ReadWhole(const std::string& path, std::string& text)
+bool PlatformReadWholeFile(const std::string& path, std::string& text)
 {
     FILE* fp = fopen(path.c_str(), "re");
     if (fp == nullptr)
@@ -344,6 +343,8 @@ bool ReadWhole(const std::string& path, std::string& text)
     fclose(fp);
     return true;
 }
+
+namespace {
 
 std::string RealPath(const std::string& path)
 {
@@ -438,7 +439,7 @@ bool PlatformProcessRuns(pid_t pid, const ustring& executable)
     if (!viaEnv && RealPath(interpreter) != exe)
         return false;
     std::string cmdline;
-    if (!ReadWhole(proc + "/cmdline", cmdline))
+    if (!PlatformReadWholeFile(proc + "/cmdline", cmdline))
         return false;
     std::vector<std::string> args;
     for (size_t start = 0; start < cmdline.size() && args.size() < 3;) {

@@ -3,6 +3,7 @@
 // bundle does what it does on macOS: it starts the bundle's application,
 // unless that application already runs.
 #include "platform/platform.h"
+#include "platform/platform_linux_files.h"
 
 #include <cerrno>
 #include <csignal>
@@ -27,20 +28,6 @@ ustring& RegistrationTool()
     return tool;
 }
 
-bool ReadFile(const std::string& path, std::string& text)
-{
-    FILE* fp = fopen(path.c_str(), "re");
-    if (fp == nullptr)
-        return false;
-    char buf[4096];
-    size_t n;
-    text.clear();
-    while ((n = fread(buf, 1, sizeof(buf), fp)) > 0)
-        text.append(buf, n);
-    fclose(fp);
-    return true;
-}
-
 // The executable a bundle names in Contents/Info.plist:
 //   <key>CFBundleExecutable</key> <string>NAME</string>
 // A missing file or key, or a name that would leave Contents/MacOS, gives
@@ -52,7 +39,7 @@ std::string BundleExecutableName(const std::string& bundle)
     if (fallback.size() > 4 && fallback.compare(fallback.size() - 4, 4, ".app") == 0)
         fallback.erase(fallback.size() - 4);
     std::string plist;
-    if (!ReadFile(bundle + "/Contents/Info.plist", plist))
+    if (!PlatformReadWholeFile(bundle + "/Contents/Info.plist", plist))
         return fallback;
     const std::string key = "<key>CFBundleExecutable</key>";
     size_t pos = plist.find(key);
