@@ -1,6 +1,7 @@
 // File operations: result codes and exact log lines, the exact-name
 // existence test, links left alone where they must be, moves between
-// volumes, and no descriptor left open (checked after every test).
+// volumes, a script bundle started through lib/platform, and no descriptor
+// left open (checked after every test).
 #include "libfile/file-op.h"
 #include "liblogger/log.h"
 #include "platform/platform.h"
