@@ -1,6 +1,7 @@
 // File operations: result codes and exact log lines, the exact-name
 // existence test, links left alone where they must be, moves between
-// volumes, and no descriptor left open (checked after every test).
+// volumes, a script bundle started through lib/platform, and no descriptor
+// left open (checked after every test).
 #include "libfile/file-op.h"
 #include "liblogger/log.h"
 #include "platform/platform.h"
@@ -214,4 +215,24 @@ TEST_F(FileOpTest, MovesToAnotherVolumeAndOntoAFullOne)
     EXPECT_TRUE(!fs::exists(P("tree")) && Read(P("vol/tree/a/f")) == "12345" &&
                 fs::is_directory(P("vol/tree/empty")));
     EXPECT_EQ("a/f", fs::read_symlink(P("vol/tree/l")).string());
+}
+
+// A bundle whose executable is a script: opened once, and the running shell counts as that script only.
+TEST_F(FolderTest, ScriptBundleStartsOnceAndRunsAsItsScript)
+{
+    const std::string run = P("S.app/Contents/MacOS/run"), started = P("started");
+    Write(P("S.app/Contents/Info.plist"), "<key>CFBundleExecutable</key>\n  <string>run</string>");
+    Write(run, "#!/bin/sh\necho $$ >>" + started + "\nwhile [ -e " + P("keep") + " ]; do sleep 0.2; done\n");
+    Write(P("other"), Read(run));
+    fs::permissions(run, fs::perms::owner_all), Write(P("keep"), "");
+    ASSERT_TRUE(PlatformOpenBundle(P("S.app").c_str()));
+    for (int i = 0; i < 600 && Read(started).empty(); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    const pid_t pid = atoi(Read(started).c_str());
+    EXPECT_TRUE(PlatformOpenBundle(P("S.app").c_str()) && PlatformProcessRuns(pid, run.c_str()));
+    EXPECT_FALSE(PlatformProcessRuns(pid, P("other").c_str()));
+    fs::remove(P("keep"));  // the script ends itself: nothing is signalled
+    for (int i = 0; i < 600 && PlatformProcessRuns(pid, run.c_str()); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    EXPECT_EQ(std::to_string(pid) + "\n", Read(started)) << "started a second time";
 }

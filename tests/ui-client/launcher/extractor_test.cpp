@@ -1,4 +1,4 @@
-// Extractor::Count and Extract on small archives written here.
+// Extractor::Count, List and Extract on small archives written here.
 #include <QSignalSpy>
 
 #include "extractor.h"
@@ -17,22 +17,25 @@ TEST(Extractor, CountsExtractsAndRefusesWithoutLeakingDescriptors)
     WriteArchive(dir + "/cut.tar", {{"one", std::string(1000, '1')}, {"two", std::string(1000, '2')}});
     fs::resize_file(dir + "/cut.tar", 512 + 1024 + 512 + 300);
     using Steps = std::vector<std::pair<int, int>>;
-    // The archive, what Count and Extract return, the progress reported.
-    const std::tuple<std::string, int, int, Steps> rows[] = {
-        {"good.tar", 3, 0, {{3, 1}, {3, 2}, {3, 3}}},
-        {"dotdot.tar", 2, -1, {{2, 1}}},
-        {"cut.tar", 2, -1, {{2, 1}}},
-        {"empty.tar", 0, -1, {}},
-        {"missing.tar", -1, -1, {}},
+    // The archive, what Count and Extract return, the progress reported, the names List prints.
+    const std::tuple<std::string, int, int, Steps, std::string> rows[] = {
+        {"good.tar", 3, 0, {{3, 1}, {3, 2}, {3, 3}}, "a/\na/b.txt\n/" + name + ".txt\n"},
+        {"dotdot.tar", 2, -1, {{2, 1}}, "ok.txt\n../" + name + ".txt\n"},
+        {"cut.tar", 2, -1, {{2, 1}}, "one\ntwo\n"},
+        {"empty.tar", 0, -1, {}, ""},
+        {"missing.tar", -1, -1, {}, ""},
     };
-    for (const auto& [archive, count, result, wantProgress] : rows) {
+    for (const auto& [archive, count, result, wantProgress, names] : rows) {
         SCOPED_TRACE(archive);
         fs::remove_all(dest);
         Extractor x{dest.c_str(), (dir + "/" + archive).c_str()};
         QSignalSpy spy(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateProgress(int, int)));
         const long fds = OpenDescriptors();
         EXPECT_EQ(count, x.Count());
-        EXPECT_EQ(fds, OpenDescriptors()) << "Count leaks a descriptor";
+        testing::internal::CaptureStdout();
+        EXPECT_EQ(count < 0 ? -1 : 0, x.List());
+        EXPECT_EQ(names, testing::internal::GetCapturedStdout());
+        EXPECT_EQ(fds, OpenDescriptors()) << "Count or List leaks a descriptor";
         EXPECT_EQ(result, x.Extract());
         EXPECT_EQ(fds, OpenDescriptors()) << "Extract leaks a descriptor";
         Steps progress;

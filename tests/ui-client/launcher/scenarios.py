@@ -178,6 +178,8 @@ row("via_path", via="path")
 row("bundle_path_blanks_non_ascii", bundle="My Apps \u00e9/Nimbulo \u00fc.app")
 row("no_display_goes_offscreen", env={"DISPLAY": None, "WAYLAND_DISPLAY": None, "QT_QPA_PLATFORM": None},
     once=["[NOTE] main(N): no dialog can be shown, DISPLAY is not set"])
+row("display_unreachable_goes_offscreen", env={"DISPLAY": ":97", "WAYLAND_DISPLAY": None, "QT_QPA_PLATFORM": None},
+    once=["[NOTE] main(N): no dialog can be shown, the X display ':97' cannot be reached"])
 row("no_display_user_platform_kept", env={"DISPLAY": None, "QT_QPA_PLATFORM": "minimal"}, nolog=["no dialog"])
 row("home_unset_no_passwd_home", user=NOBODY, env={"HOME": None}, old=None, aged=False, tree="none", starts=(),
     exact=True, stderr=["[ERROR] main(N): no home folder: HOME is not an absolute path and the password database "
