@@ -14,6 +14,19 @@
 
 namespace fs = std::filesystem;
 
+// A fresh folder under the system's temporary folder.
+inline std::string TempDir()
+{
+    std::string tmpl = (fs::temp_directory_path() / "nimbulo-test.XXXXXX").string();
+    return mkdtemp(&tmpl[0]) ? tmpl : "";
+}
+
+inline void Put(const fs::path& path, const std::string& data)
+{
+    fs::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << data;
+}
+
 inline int OpenDescriptors()
 {
     return static_cast<int>(std::distance(fs::directory_iterator("/proc/self/fd"), {}));
@@ -23,9 +36,9 @@ class FolderTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        std::string tmpl = (fs::temp_directory_path() / "nimbulo-lib.XXXXXX").string();
-        ASSERT_NE(mkdtemp(&tmpl[0]), nullptr);
-        dir = fs::canonical(tmpl).string();
+        dir = TempDir();
+        ASSERT_FALSE(dir.empty());
+        dir = fs::canonical(dir).string();
         fds = OpenDescriptors();
     }
     void TearDown() override
@@ -35,11 +48,6 @@ protected:
             fs::remove_all(dir);
     }
     std::string P(const std::string& rest) const { return dir + "/" + rest; }
-    static void Write(const std::string& path, const std::string& data)
-    {
-        fs::create_directories(fs::path(path).parent_path());
-        std::ofstream(path, std::ios::binary) << data;
-    }
     static std::string Read(const std::string& path)
     {
         std::ifstream in(path, std::ios::binary);

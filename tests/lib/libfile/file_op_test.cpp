@@ -27,7 +27,7 @@ protected:
     void SetUp() override
     {
         FolderTest::SetUp();
-        Write(P("levels"), "file_op_debug=7\n");
+        Put(P("levels"), "file_op_debug=7\n");
         ASSERT_EQ(0, Logger::Initialize(Logger::TYPE_FILE, ustring(P("log").c_str()),
                                         ustring(P("levels").c_str()), 50));
     }
@@ -44,7 +44,7 @@ protected:
               std::initializer_list<std::pair<std::string, const char*>> links)
     {
         for (const char* file : files)
-            Write(P(file), "12345");
+            Put(P(file), "12345");
         for (const auto& link : links)
             fs::create_symlink(link.first, P(link.second));
     }
@@ -99,7 +99,7 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
 {
     Make({"real/f", "file", "file2", "tree/a/b/f"},
          {{"real", "alias"}, {"../../real", "tree/a/up"}, {std::string(1024, 'x'), "long"}});
-    Write(P("copy"), "a longer file");
+    Put(P("copy"), "a longer file");
     const std::string no = P("missing"),
                       noDir = "FSMKDir: Create a folder but local file system is not directory '";
     const std::string info = "[INFO] file-op(#): FSMKDirP: path: " + P("file") + " is ";
@@ -207,7 +207,7 @@ TEST_F(FileOpTest, MovesToAnotherVolumeAndOntoAFullOne)
     } unmount{P("vol")};
     Make({"tree/a/f"}, {{"a/f", "tree/l"}});
     fs::create_directory(P("tree/empty"));
-    Write(P("big"), std::string(2 << 20, 'x'));
+    Put(P("big"), std::string(2 << 20, 'x'));
     EXPECT_EQ(0, FSRename(P("tree"), P("vol/tree"), true));
     EXPECT_EQ(-2, FSCopy(P("big"), P("vol/big"), true));
     EXPECT_EQ(E("CopyFile: write: " + Why(ENOSPC) + " (28)"), NewLog());
@@ -221,10 +221,10 @@ TEST_F(FileOpTest, MovesToAnotherVolumeAndOntoAFullOne)
 TEST_F(FolderTest, ScriptBundleStartsOnceAndRunsAsItsScript)
 {
     const std::string run = P("S.app/Contents/MacOS/run"), started = P("started");
-    Write(P("S.app/Contents/Info.plist"), "<key>CFBundleExecutable</key>\n  <string>run</string>");
-    Write(run, "#!/bin/sh\necho $$ >>" + started + "\nwhile [ -e " + P("keep") + " ]; do sleep 0.2; done\n");
-    Write(P("other"), Read(run));
-    fs::permissions(run, fs::perms::owner_all), Write(P("keep"), "");
+    Put(P("S.app/Contents/Info.plist"), "<key>CFBundleExecutable</key>\n  <string>run</string>");
+    Put(run, "#!/bin/sh\necho $$ >>" + started + "\nwhile [ -e " + P("keep") + " ]; do sleep 0.2; done\n");
+    Put(P("other"), Read(run));
+    fs::permissions(run, fs::perms::owner_all), Put(P("keep"), "");
     ASSERT_TRUE(PlatformOpenBundle(P("S.app").c_str()));
     for (int i = 0; i < 600 && Read(started).empty(); ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(50));

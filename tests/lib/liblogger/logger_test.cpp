@@ -69,7 +69,7 @@ TEST_F(FolderTest, ConfigReadsWholeFilesOrNothing)
         {"opens but cannot be read", dir, "-", "-1:kept=1;"}};
     for (const Row& row : rows) {
         if (row.text != "-")
-            Write(row.path, row.text);
+            Put(row.path, row.text);
         Config config;
         config.table[ustring("kept")] = ustring("1");
         std::string got = std::to_string(config.read(ustring(row.path.c_str()))) + ":";
@@ -116,7 +116,7 @@ protected:
 // A component the switch file does not name has threshold 4. Lines on stderr take the same form as in a file.
 TEST_F(LoggerTest, LineFormatAndThresholds)
 {
-    Write(P("launcher.debug"), "# on\nlauncher_debug=7\nservice_debug = 5\n");
+    Put(P("launcher.debug"), "# on\nlauncher_debug=7\nservice_debug = 5\n");
     testing::internal::CaptureStderr();
     EXPECT_EQ(0,
               Logger::Initialize(Logger::TYPE_STDERR, ustring(""), ustring(P("launcher.debug").c_str()), 50));
@@ -135,7 +135,7 @@ TEST_F(LoggerTest, LineFormatAndThresholds)
 // file. The older files are _0 (newest) to _48; _49 never survives a rotation.
 TEST_F(LoggerTest, RotationPastOneMebibyteIntoFortyNineOlderFiles)
 {
-    Write(P("launcher.log"), std::string(1048576 - 16 - Line(3, "first").size(), 'x'));
+    Put(P("launcher.log"), std::string(1048576 - 16 - Line(3, "first").size(), 'x'));
     ASSERT_EQ(0, Init("launcher.log"));
     EXPECT_FALSE((Log(3, "c", "first"), fs::exists(N(0))));
     ASSERT_EQ(1048576 + 16 + Line(3, "second").size(), (Log(3, "c", "second"), fs::file_size(N(0))));

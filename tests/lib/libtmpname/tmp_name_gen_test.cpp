@@ -13,7 +13,7 @@ TEST_F(FolderTest, TmpNamesKnownUniqueAndFromTheAlphabet)
     std::string key(256, '\0');
     for (int i = 1; i < 256; ++i)
         key[i] = static_cast<char>(1 - i);
-    Write(P("identity"), key);
+    Put(P("identity"), key);
     TmpNameGen gen(P("identity").c_str());
     EXPECT_STREQ("0wk73gQn", gen.getTmpName().c_str());
     EXPECT_STREQ("0MM53O8V", gen.getTmpName().c_str());
@@ -32,7 +32,7 @@ TEST_F(FolderTest, TmpNamesKnownUniqueAndFromTheAlphabet)
 // A short read from the device keys with "seconds-microseconds" written over what arrived, the rest kept.
 TEST_F(FolderTest, TmpNameKeyFromTheTimeOfDayWhenTheDeviceGivesTooLittle)
 {
-    Write(P("short"), std::string(100, 'Z'));
+    Put(P("short"), std::string(100, 'Z'));
     unsigned char key[257] = {};
     timeval before, after;
     gettimeofday(&before, nullptr);

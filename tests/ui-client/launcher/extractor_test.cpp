@@ -5,8 +5,6 @@
 #include "launcher.h"
 #include "ui_test.h"
 
-#include "../../lib/lib_test.h"
-
 TEST(Extractor, CountsExtractsAndRefusesWithoutLeakingDescriptors)
 {
     const std::string dir = TempDir(), dest = dir + "/dest", name = fs::path(dir).filename();

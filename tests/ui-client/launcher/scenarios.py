@@ -1,18 +1,17 @@
 #!/usr/bin/env python3
-"""The launcher bundle run as a real process, one row per scenario.
-
-  scenarios.py --list
-  scenarios.py ROW BUNDLE SPK_PACK CLIENT     exit 0 passed, 1 failed, 77 skipped
-
-A row sets up a temporary HOME (installed copy, backups, ~/.Nimbulo/app,
-ui.pid, a running client), a copy of BUNDLE with a package that SPK_PACK made
-(or a damaged one) and the debug switch file, runs the launcher, and checks
-from outside: the installed tree, backups left, log lines, the "lib path"
-line, the exit status and the record file of the stand-in CLIENT. Each row
-runs in PID and mount namespaces of its own, under a shell as process 1 that
-reaps the clients it adopts; rows that need to differ in permissions run the
-launcher as user 65534.
-"""
+# The launcher bundle run as a real process, one row per scenario.
+#
+#   scenarios.py --list
+#   scenarios.py ROW BUNDLE SPK_PACK CLIENT     exit 0 passed, 1 failed, 77 skipped
+#
+# A row sets up a temporary HOME (installed copy, backups, ~/.Nimbulo/app,
+# ui.pid, a running client), a copy of BUNDLE with a package that SPK_PACK made
+# (or a damaged one) and the debug switch file, runs the launcher, and checks
+# from outside: the installed tree, backups left, log lines, the "lib path"
+# line, the exit status and the record file of the stand-in CLIENT. Each row
+# runs in PID and mount namespaces of its own, under a shell as process 1 that
+# reaps the clients it adopts; rows that need to differ in permissions run the
+# launcher as user 65534.
 import ctypes, hashlib, io, os, random, re, shutil, subprocess, sys, tarfile, tempfile, time
 
 CLIENT, INFO = "Contents/MacOS/nimbulo-pelora-ui", "Contents/Resources/INFO"

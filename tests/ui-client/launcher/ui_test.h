@@ -6,22 +6,7 @@
 #include <archive_entry.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-
-namespace fs = std::filesystem;
-
-inline std::string TempDir()
-{
-    char pattern[] = "/tmp/nimbulo-ui-test-XXXXXX";
-    return mkdtemp(pattern);
-}
-
-inline void Put(const fs::path& path, const std::string& text)
-{
-    fs::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary) << text;
-}
+#include "../../lib/lib_test.h"
 
 // A ustar archive of (path, data) entries, names stored as they are; a path
 // ending in "/" is a folder.
