@@ -54,14 +54,6 @@ void ReadVersionFile(const ustring& path, ustring& major, ustring& minor, ustrin
     settings.endGroup();
 }
 
-// A build text as the upgrade decision reads it: the atoi rule, kept inside
-// the int range.
-int BuildNumber(const ustring& text)
-{
-    long value = text.empty() ? 0 : strtol(text.c_str(), nullptr, 10);
-    return value > INT_MAX ? INT_MAX : value < INT_MIN ? INT_MIN : static_cast<int>(value);
-}
-
 // Backup names: A_tmp for index 0, then A_tmp1 ... A_tmp9, so
 // ~/.Nimbulo/Nimbulo.app with index 3 gives ~/.Nimbulo/Nimbulo.app_tmp3.
 ustring GetAppBackupDir(const ustring& appPath, int index)
@@ -117,6 +109,19 @@ ustring Service::GetUserNimbuloAppInstallPath()
 ustring Service::GetUserNimbuloDataInstallPath()
 {
     return GetUserNimbuloInstallPath() + "/" + "data";
+}
+
+// The atoi rule, kept inside the int range instead of overflowing.
+int Service::BuildNumber(const ustring& text)
+{
+    if (text.empty())
+        return 0;
+    long value = strtol(text.c_str(), nullptr, 10);
+    if (value > INT_MAX)
+        return INT_MAX;
+    if (value < INT_MIN)
+        return INT_MIN;
+    return static_cast<int>(value);
 }
 
 ustring Service::GetUserNimbuloLockPath()

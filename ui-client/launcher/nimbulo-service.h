@@ -50,6 +50,9 @@ public:
     static ustring GetUserNimbuloDataInstallPath();      // R/data
     static ustring GetUserNimbuloLockPath();             // R/launcher.lock
 
+    // A version file's build text as the upgrade decision compares it.
+    static int BuildNumber(const ustring& text);
+
     // Copies a file or a folder tree. 0, or -1; a folder whose listing cannot
     // be opened is created empty and counts as copied.
     int FSCopyPath(const ustring& src, const ustring& dst);

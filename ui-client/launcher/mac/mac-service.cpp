@@ -75,19 +75,6 @@ void SleepOneSecond()
     while (nanosleep(&left, &left) != 0 && errno == EINTR) { }
 }
 
-// The standard atoi rule, kept inside the int range instead of overflowing.
-int BuildNumber(const ustring& text)
-{
-    if (text.empty())
-        return 0;
-    long value = strtol(text.c_str(), nullptr, 10);
-    if (value > INT_MAX)
-        return INT_MAX;
-    if (value < INT_MIN)
-        return INT_MIN;
-    return static_cast<int>(value);
-}
-
 }  // namespace
 
 MacService::MacService()
