@@ -277,7 +277,8 @@ class Scene:
         r, b = self.r, self.bundle
         os.makedirs(f"{b}/Contents/Frameworks")
         shutil.copytree(f"{self.bundle_src}/Contents/MacOS", f"{b}/Contents/MacOS")
-        os.symlink(f"{self.bundle_src}/Contents/Frameworks/plugins", f"{b}/Contents/Frameworks/plugins")
+        # Copied, not linked: rows run as another user, who may not enter the build folder.
+        shutil.copytree(f"{self.bundle_src}/Contents/Frameworks/plugins", f"{b}/Contents/Frameworks/plugins")
         shutil.copytree(f"{self.bundle_src}/Contents/Resources", f"{b}/Contents/Resources")
         many = 1500 if (r["mode"] or "").startswith("crash") or r["mode"] == "pair" else 0
         big = 2 << 20 if r["mode"] == "fullvol" else 0
