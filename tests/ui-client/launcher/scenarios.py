@@ -349,7 +349,8 @@ class Scene:
                "ASAN_OPTIONS": "detect_leaks=0", "XDG_RUNTIME_DIR": self.work}
         if os.path.isdir(f"{self.work}/loc"):
             env["LOCPATH"] = f"{self.work}/loc"
-        env.update({k: v for k, v in os.environ.items() if k.endswith("SAN_OPTIONS") or k == "LD_PRELOAD"})
+        # Suppression files are copied here: another user may not read the source tree.
+        env.update({k: re.sub(r"\bsuppressions=([^:]+)", lambda m: "suppressions=" + shutil.copy(m.group(1), self.work), v) for k, v in os.environ.items() if k.endswith("SAN_OPTIONS") or k == "LD_PRELOAD"})
         env.update(self.r["env"], **(extra or {}))
         return {k: v for k, v in env.items() if v is not None}
 
