@@ -27,6 +27,12 @@ inline void Put(const fs::path& path, const std::string& data)
     std::ofstream(path, std::ios::binary) << data;
 }
 
+inline std::string Read(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
 inline int OpenDescriptors()
 {
     return static_cast<int>(std::distance(fs::directory_iterator("/proc/self/fd"), {}));
@@ -48,11 +54,6 @@ protected:
             fs::remove_all(dir);
     }
     std::string P(const std::string& rest) const { return dir + "/" + rest; }
-    static std::string Read(const std::string& path)
-    {
-        std::ifstream in(path, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(in), {});
-    }
     // dir is canonical: the exact-name test compares with the stored path.
     std::string dir;
     int fds = 0;

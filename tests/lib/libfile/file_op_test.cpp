@@ -179,7 +179,7 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
          E("mkstemp(" + no + "/XXXXXX): " + Why(ENOENT)) +
              E("FSChown: Failed to chown '" + no + "' (code: 2, msg: " + Why(ENOENT) + ")")},
         {"volume type of a folder and of nothing",
-         [&] { return isMountPoint(dir) + IsMSDOS(dir) + isMountPoint(no) + IsMSDOS(no); }, 0,
+         [&] { return isMountPoint(dir) + IsMSDOS("/proc") + isMountPoint(no) + IsMSDOS(no); }, 0,
          E("isMountPoint: Failed to get file system info '" + no + "'. " + Why(ENOENT)) +
              E("IsSupportLargeFile: Failed to get file system info '" + no + "'. " + Why(ENOENT))}};
     for (const Row& row : rows) {
@@ -235,4 +235,9 @@ TEST_F(FolderTest, ScriptBundleStartsOnceAndRunsAsItsScript)
     for (int i = 0; i < 600 && PlatformProcessRuns(pid, run.c_str()); ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
     EXPECT_EQ(std::to_string(pid) + "\n", Read(started)) << "started a second time";
+    // Unregistering: the tool's own status, or -2 when it cannot be run.
+    for (const auto& [tool, want] :
+         {std::pair<const char*, int>{"/bin/true", 0}, {"/bin/false", 1}, {"/no", -2}})
+        EXPECT_EQ(want, (PlatformSetRegistrationTool(tool), PlatformForgetBundle(P("S.app").c_str())))
+            << tool;
 }

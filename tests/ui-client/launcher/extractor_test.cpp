@@ -45,3 +45,25 @@ TEST(Extractor, CountsExtractsAndRefusesWithoutLeakingDescriptors)
     }
     fs::remove_all(dir);
 }
+
+// The block copy offered beside Extract: a whole entry, then one cut short.
+TEST(Extractor, CopyDataCopiesAnEntryAndRefusesACutOne)
+{
+    const std::string dir = TempDir();
+    WriteArchive(dir + "/cut.tar", {{"one", "whole"}, {"two", std::string(1000, '2')}});
+    fs::resize_file(dir + "/cut.tar", 512 * 3 + 300);
+    archive *r = archive_read_new(), *w = archive_write_disk_new();
+    archive_read_support_format_tar(r);
+    archive_read_open_filename(r, (dir + "/cut.tar").c_str(), 10240);
+    archive_entry* e;
+    for (int want : {0, -1}) {
+        archive_read_next_header(r, &e);
+        archive_entry_set_pathname(e, (dir + "/out" + std::to_string(want)).c_str());
+        archive_write_header(w, e);
+        EXPECT_EQ(want, Extractor().copy_data(r, w));
+    }
+    EXPECT_EQ(-1, Extractor().copy_data(nullptr, w));
+    archive_read_free(r), archive_write_free(w);
+    EXPECT_EQ("whole", Read(dir + "/out0"));
+    fs::remove_all(dir);
+}

@@ -8,6 +8,7 @@
 
 #include "launcher.h"
 #include "locale/str-table.h"
+#include "mac/mac-service.h"
 #include "nimbulo-service.h"
 #include "ui_test.h"
 
@@ -83,6 +84,42 @@ TEST(ProgressDialog, EachEntryThenTheReadyTextOnlyAfterSuccess)
         EXPECT_FALSE(d->isVisible());
         fs::remove_all(home);
     }
+}
+
+// What Service and PackageInfo offer beside the upgrade flow: further paths,
+// FSCopyPath over a tree, a file, a missing source, a destination below a
+// file and a tree holding a link that leads nowhere, and the version loaders.
+TEST(Service, PathsAndFSCopyPath)
+{
+    const fs::path home = TempDir(), src = home / "src", contents = qApp->applicationDirPath().toStdString();
+    const std::string macos = contents.string(), bundle = contents.parent_path().parent_path();
+    qputenv("HOME", home.c_str());
+    PackageInfo p;
+    EXPECT_EQ((std::vector<std::string>{macos + "/images", home / ".Nimbulo_log",
+                                        macos + "/log/launcher.debug", macos + "/package/nimbulo.spk",
+                                        macos + "/conf", bundle, home / ".Nimbulo/data"}),
+              (std::vector<std::string>{p.imagesPath.c_str(), p.logRootPath.c_str(), p.debugFlagPath.c_str(),
+                                        p.packagePath.c_str(), p.confPath.c_str(),
+                                        Service::GetRootNimbuloInstallPath().c_str(),
+                                        Service::GetUserNimbuloDataInstallPath().c_str()}));
+    Put(src / "a/b.txt", "bee"), Put(src / "c.txt", "sea"), Put(home / "bad/ok", "");
+    fs::create_symlink("nowhere", home / "bad/link");
+    const std::tuple<fs::path, fs::path, int> rows[] = {{src, home / "copy", 0},
+                                                        {src / "c.txt", home / "c.txt", 0},
+                                                        {home / "none", home / "x", -1},
+                                                        {src, home / "c.txt/x", -1},
+                                                        {home / "bad", home / "bad2", -1}};
+    MacService* service = MacService::GetInstace();
+    for (const auto& [from, to, want] : rows)
+        EXPECT_EQ(want, service->FSCopyPath(from.c_str(), to.c_str())) << from << " to " << to;
+    Put(home / ".Nimbulo/Nimbulo.app/Contents/Resources/INFO", "[Version]\nbuild_version=5\n");
+    Put(contents.parent_path() / "Resources/INFO", "[Version]\nbuild_version=7\n");
+    service->LoadSourceVerInfo(), service->LoadTargetVerInfo();
+    EXPECT_EQ("5 7",
+              std::string(service->sourceBuildVersion.c_str()) + " " + service->targetBuildVersion.c_str());
+    EXPECT_EQ("bee sea sea",
+              Read(home / "copy/a/b.txt") + " " + Read(home / "copy/c.txt") + " " + Read(home / "c.txt"));
+    fs::remove_all(home);
 }
 
 int main(int argc, char** argv)

@@ -38,7 +38,7 @@ TEST(Locale, SystemLocaleChoosesTheLanguageAndItsCatalogue)
     }
 }
 
-TEST(Locale, EveryCatalogueTranslatesEveryText)
+TEST(Locale, EveryCatalogueTranslatesEveryTextAndEveryKeyIsFound)
 {
     for (const char* code : {"chs", "cht", "csy", "dan", "enu", "fre", "ger", "hun", "ita", "jpn",
                              "krn", "nld", "nor", "plk", "ptb", "ptg", "rus", "spn", "sve", "trk"}) {
@@ -48,6 +48,9 @@ TEST(Locale, EveryCatalogueTranslatesEveryText)
             EXPECT_FALSE(translator.translate("global", StrTable::stab[id]).isEmpty())
                 << code << " lacks " << id;
     }
+    for (int id = 0; id < StrTable::kRowCount; ++id)
+        EXPECT_EQ(id, StrTable::LookupStrID(QString(StrTable::ktab[id]).toUpper())) << "the key of " << id;
+    EXPECT_EQ(-1, StrTable::LookupStrID("no such key"));
 }
 
 int main(int argc, char** argv)
