@@ -12,7 +12,7 @@
 # runs in PID and mount namespaces of its own, under a shell as process 1 that
 # reaps the clients it adopts; rows that need to differ in permissions run the
 # launcher as user 65534.
-import ctypes, hashlib, io, os, random, re, shutil, subprocess, sys, tarfile, tempfile, time
+import ctypes, hashlib, io, os, random, re, resource, shutil, subprocess, sys, tarfile, tempfile, time
 
 CLIENT, INFO = "Contents/MacOS/nimbulo-pelora-ui", "Contents/Resources/INFO"
 PLIST = "<plist><dict><key>CFBundleExecutable</key><string>nimbulo-pelora-ui</string></dict></plist>\n"
@@ -292,7 +292,9 @@ class Scene:
                 write(f"{self.new}/{self.work}/abs.txt", "hostile\n", 0o644)
         elif damage != "missing":
             fmt = "tar" if damage == "truncated" else r["fmt"]
-            subprocess.run([self.spk_pack, "--format", fmt, self.new, spk], check=True)
+            # Few descriptors: packing 1,500 entries must not hold one per file.
+            subprocess.run([self.spk_pack, "--format", fmt, self.new, spk], check=True,
+                           preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_NOFILE, (64, 64)))
         if damage in ("empty", "garbage"):
             write(spk, random.Random(11).randbytes(100000) if damage == "garbage" else "")
         elif damage in ("truncated", "truncated_gz"):
