@@ -15,10 +15,6 @@ std::string E(const std::string& text)
 {
     return "[ERROR] file-op(#): " + text + "\n";
 }
-std::string Why(int err)
-{
-    return strerror(err);
-}
 
 // Every message of file_op_debug goes to a log in the test's folder; NewLog gives the lines since its last call,
 // without time stamp and with the line number shown as '#'.
@@ -120,7 +116,7 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
         {"below a file", [&] { return FSMKDir(P("file/x"), false); }, -1,
          E("FSMKDir: Failed to to file info '" + P("file/x") + "'")},
         {"no parent", [&] { return FSMKDir(P("p/q"), false); }, -2,
-         E("path = " + P("p/q") + " errno : " + Why(ENOENT))},
+         E("path = " + P("p/q") + " errno : " + strerror(ENOENT))},
         {"with parents", [&] { return FSMKDir(P("p/q"), true); }, 0, ""},
         {"-p through a file", [&] { return FSMKDirP(P("file/c"), nullptr, false, 0xFFFF); }, -1,
          info + "symbolic link pointed to folder\n"},
@@ -134,9 +130,9 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
         {"below a root", [&] { return FSMKDirFromRoot(P("r/s"), dir); }, 0, ""},
         {"copy over a longer file", [&] { return FSCopy(P("real/f"), P("copy"), false); }, 0, ""},
         {"copy from nothing", [&] { return FSCopy(no, P("x"), false); }, -1,
-         E("CopyFile: open(" + no + "): " + Why(ENOENT) + " (2)")},
+         E("CopyFile: open(" + no + "): " + strerror(ENOENT) + " (2)")},
         {"copy to nowhere", [&] { return FSCopy(P("copy"), P("no/x"), false); }, -1,
-         E("CopyFile: open(" + P("no/x") + "): " + Why(ENOENT) + " (2)")},
+         E("CopyFile: open(" + P("no/x") + "): " + strerror(ENOENT) + " (2)")},
         {"copy, moving", [&] { return FSCopy(P("copy"), P("moved"), true); }, 0, ""},
         {"rename, missing or empty source",
          [&] { return FSRename(no, P("g"), false) * 10 + FSRename("", P("g"), false); }, -21, ""},
@@ -155,8 +151,13 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
          1, ""},
         {"remove a link to a folder", [&] { return FSRemove(P("alias"), false); }, 0, ""},
         {"remove a tree holding a link", [&] { return FSRemove(P("tree"), false); }, 0, ""},
-        {"list nothing", [&] { return FSOpenDir(no, 0, h); }, -1,
-         E("FSOpenDir: Failed to open directory '" + no + "'. " + Why(ENOENT))},
+        {"list nothing, then a folder with times and sizes (m has them, . and .. do not)",
+         [&] {
+             int timed = FSOpenDir(no, 0, h) * 10 + FSOpenDir(P("real/n"), 1, h);
+             for (DIR_ENTRY e; FSReadDir(h, e) == 1; timed += e.mtime > 0 && e.size > 0) { }
+             return FSCloseDir(h), timed;
+         },
+         -9, E("FSOpenDir: Failed to open directory '" + no + "'. " + strerror(ENOENT))},
         {"long link", [&] { return FSReadSymbolicLink(P("long"), t); }, -1,
          E("FSReadSymbolicLink: path of '" + P("long") + "' is more than 1024")},
         {"paths",
@@ -176,12 +177,12 @@ TEST_F(FileOpTest, ResultCodesAndMessages)
                     FSUTime(no, 5, 7) && FSChown(no, 0, 0) && FSStat("", a, false) && a != _FILE_INFO_tag();
          },
          1,
-         E("mkstemp(" + no + "/XXXXXX): " + Why(ENOENT)) +
-             E("FSChown: Failed to chown '" + no + "' (code: 2, msg: " + Why(ENOENT) + ")")},
+         E("mkstemp(" + no + "/XXXXXX): " + strerror(ENOENT)) +
+             E("FSChown: Failed to chown '" + no + "' (code: 2, msg: " + strerror(ENOENT) + ")")},
         {"volume type of a folder and of nothing",
          [&] { return isMountPoint(dir) + IsMSDOS("/proc") + isMountPoint(no) + IsMSDOS(no); }, 0,
-         E("isMountPoint: Failed to get file system info '" + no + "'. " + Why(ENOENT)) +
-             E("IsSupportLargeFile: Failed to get file system info '" + no + "'. " + Why(ENOENT))}};
+         E("isMountPoint: Failed to get file system info '" + no + "'. " + strerror(ENOENT)) +
+             E("IsSupportLargeFile: Failed to get file system info '" + no + "'. " + strerror(ENOENT))}};
     for (const Row& row : rows) {
         EXPECT_EQ(row.result, row.op()) << row.tag;
         EXPECT_EQ(row.log, NewLog()) << row.tag;
@@ -200,7 +201,7 @@ TEST_F(FileOpTest, MovesToAnotherVolumeAndOntoAFullOne)
 {
     fs::create_directory(P("vol"));
     if (mount("tmpfs", P("vol").c_str(), "tmpfs", 0, "size=1m") != 0)
-        GTEST_SKIP() << "mounting a tmpfs is not permitted here: " << Why(errno);
+        GTEST_SKIP() << "mounting a tmpfs is not permitted here: " << strerror(errno);
     struct Unmount {
         std::string at;
         ~Unmount() { umount2(at.c_str(), MNT_DETACH); }
@@ -210,7 +211,7 @@ TEST_F(FileOpTest, MovesToAnotherVolumeAndOntoAFullOne)
     Put(P("big"), std::string(2 << 20, 'x'));
     EXPECT_EQ(0, FSRename(P("tree"), P("vol/tree"), true));
     EXPECT_EQ(-2, FSCopy(P("big"), P("vol/big"), true));
-    EXPECT_EQ(E("CopyFile: write: " + Why(ENOSPC) + " (28)"), NewLog());
+    EXPECT_EQ(E(std::string("CopyFile: write: ") + strerror(ENOSPC) + " (28)"), NewLog());
     EXPECT_TRUE(fs::exists(P("big")) && fs::exists(P("vol/big"))) << "a failed move keeps both sides";
     EXPECT_TRUE(!fs::exists(P("tree")) && Read(P("vol/tree/a/f")) == "12345" &&
                 fs::is_directory(P("vol/tree/empty")));

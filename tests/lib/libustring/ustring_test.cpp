@@ -45,7 +45,7 @@ TEST(Ustring, Searches)
                       {kFirstNotOf, "abc", "", 3, npos},
                       {kFirstNotOf, "ab  cd", " b", 1, 4},
                       {kLastOf, "abc", "", npos, npos},
-                      {kLastOf, "/a/b/c", "/", npos, 4},
+                      {kLastOf, "/a/b/", "/", npos, 4},
                       {kLastOf, "/a/b/c", "/", 3, 2},
                       {kLastOf, "/a/b/c", "/", 2, 2},
                       {kLastOf, "/a/b/c", "/", 1, 0},
