@@ -236,9 +236,10 @@ TEST_F(FolderTest, ScriptBundleStartsOnceAndRunsAsItsScript)
     for (int i = 0; i < 600 && PlatformProcessRuns(pid, run.c_str()); ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
     EXPECT_EQ(std::to_string(pid) + "\n", Read(started)) << "started a second time";
-    // Unregistering: the tool's own status, or -2 when it cannot be run.
+    // Unregistering: the tool's own status, or -2 when it cannot be run. env takes "-u NAME" (and
+    // then prints the environment), and fails on any other option.
     for (const auto& [tool, want] :
-         {std::pair<const char*, int>{"/bin/true", 0}, {"/bin/false", 1}, {"/no", -2}})
+         {std::pair<const char*, int>{"/usr/bin/env", 0}, {"/bin/false", 1}, {"/no", -2}})
         EXPECT_EQ(want, (PlatformSetRegistrationTool(tool), PlatformForgetBundle(P("S.app").c_str())))
             << tool;
 }
