@@ -2,13 +2,10 @@
 // libarchive's reader.
 #include <archive.h>
 #include <archive_entry.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 
-namespace fs = std::filesystem;
+#include "../../lib/lib_test.h"
 
 static int Shell(const std::string& command)
 {
@@ -38,16 +35,13 @@ static std::vector<std::string> Entries(const fs::path& package)
 // accepted.
 TEST(SpkPack, EveryFormatPutsTheVersionFileLastAndIsDeterministic)
 {
-    char pattern[] = "/tmp/spk-pack-test-XXXXXX";
-    const std::string dir = mkdtemp(pattern), pack = std::string(SPK_PACK_PATH) + " --format ";
+    const std::string dir = TempDir(), pack = std::string(SPK_PACK_PATH) + " --format ";
     std::vector<std::string> files = {"Contents/Info.plist",        "Contents/MacOS/nimbulo-pelora-ui",
                                       "Contents/Resources/INFO",    "Contents/Resources/z/a.png",
                                       "Contents/Resources/z-x.png", "Contents/A/b"};
     for (const char* copy : {"/one/", "/two/"}) {
-        for (const std::string& f : files) {
-            fs::create_directories(fs::path(dir + copy + f).parent_path());
-            std::ofstream(dir + copy + f) << f;
-        }
+        for (const std::string& f : files)
+            Put(dir + copy + f, f);
         std::reverse(files.begin(), files.end());
     }
     fs::last_write_time(dir + "/two/Contents/Info.plist",

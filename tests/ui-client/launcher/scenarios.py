@@ -268,6 +268,11 @@ class Scene:
         self.record = os.path.join(self.work, "record")
         self.runs = 0
         write(self.record, "", 0o666)
+        # The sanitizers' settings, their suppression files copied here once: another user may not read the
+        # source tree.
+        copy = lambda m: "suppressions=" + shutil.copy(m.group(1), self.work)
+        self.san = {k: re.sub(r"\bsuppressions=([^:]+)", copy, v) for k, v in os.environ.items()
+                    if k.endswith("SAN_OPTIONS") or k == "LD_PRELOAD"}
 
     def backup(self, i):
         return self.app + "_tmp" + (str(i) if i else "")
@@ -350,8 +355,7 @@ class Scene:
                "ASAN_OPTIONS": "detect_leaks=0", "XDG_RUNTIME_DIR": self.work}
         if os.path.isdir(f"{self.work}/loc"):
             env["LOCPATH"] = f"{self.work}/loc"
-        # Suppression files are copied here: another user may not read the source tree.
-        env.update({k: re.sub(r"\bsuppressions=([^:]+)", lambda m: "suppressions=" + shutil.copy(m.group(1), self.work), v) for k, v in os.environ.items() if k.endswith("SAN_OPTIONS") or k == "LD_PRELOAD"})
+        env.update(self.san)
         env.update(self.r["env"], **(extra or {}))
         return {k: v for k, v in env.items() if v is not None}
 
